@@ -146,23 +146,29 @@ def vignette(img, strength=0.6, power=2.0):
 
 
 def hieroglyph_row(img, box, seed, size, mode="carve", color=P.GOLD, spacing=1.35):
-    """A line of signs along a box (x0, y0, x1, y1), centred vertically, carved or painted."""
+    """A line of signs centred in a box (x0, y0, x1, y1), carved or painted."""
     rng = np.random.default_rng(seed)
     x0, y0, x1, y1 = box
-    x = x0 + size * 0.2
+    gap = size * (spacing - 1) + 2
+    masks, used = [], 0.0
     while True:
         code = GLYPHS[int(rng.integers(0, len(GLYPHS)))]
         m = glyph_mask(code, size, 1 if size >= 14 else 0)
         if m.size[1] > (y1 - y0):
             m = m.resize((max(1, int(m.size[0] * (y1 - y0) / m.size[1])), int(y1 - y0)), Image.LANCZOS)
-        if x + m.size[0] > x1:
+        need = m.size[0] + (gap if masks else 0)
+        if used + need > (x1 - x0) - size * 0.4:
             break
+        masks.append(m)
+        used += need
+    x = x0 + ((x1 - x0) - used) / 2
+    for m in masks:
         y = y0 + ((y1 - y0) - m.size[1]) / 2
         if mode == "carve":
             carve(img, m, (x, y))
         else:
             paint_mask(img, m, (x, y), color)
-        x += m.size[0] + size * (spacing - 1) + 2
+        x += m.size[0] + gap
     return img
 
 
@@ -268,8 +274,8 @@ def lapis_plate(w, h, seed, radius=5, alpha=235):
     n = C.fbm(w, h, rng, cells=(16, 8, 4))
     ys = np.linspace(1.15, 0.75, h)[:, None]
     rgb = C.shade(P.LAPIS, (0.7 + 0.45 * n) * ys)
-    fleck = rng.random((h, w)) > 0.985
-    rgb[fleck] = np.array(P.GOLD_LIGHT, dtype=np.float64)
+    fleck = rng.random((h, w)) > 0.994
+    rgb[fleck] = rgb[fleck] * 0.4 + np.array(P.GOLD, dtype=np.float64) * 0.6
     img = C.from_array(np.dstack([np.clip(rgb, 0, 255), np.full((h, w), 255.0)]))
     layer = C.SSLayer(w, h)
     layer.rect((0, 0, w, h), fill=(255, 255, 255, alpha), radius=radius)

@@ -145,7 +145,7 @@ def _background_wall(w, h, seed):
 def background():
     w, h = 3100, 1100
     img = _background_wall(w, h, 31)
-    img = M.darken(img, 0.42, toward=P.VOID)
+    img = M.darken(img, 0.5, toward=P.VOID)
     img = M.vignette(img, 0.35, 2.0)
     return _posterize(img, 5)
 
