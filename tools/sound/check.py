@@ -1,0 +1,181 @@
+#!/usr/bin/python3
+"""check.py -- proves that the nine sound files in assets/ are what the game needs.
+
+Run from the repository root:   /usr/bin/python3 tools/sound/check.py [--dir assets]
+
+For every file: it exists, sox reads it, our own decoder reads it, the container and sample format are
+the ones the game's loader expects, nothing clips and the peak stays under the ceiling. For music: at
+least 60 s long, 44.1 kHz stereo Ogg Vorbis, one common loudness (K-weighted and plain RMS), and the loop
+point joins without a click or a fade. For effects: short, starting and ending in silence.
+Exits non-zero if any check fails; the last line reads 'N passed, N failed'.
+"""
+import argparse
+import os
+import re
+import subprocess
+import sys
+
+import numpy as np
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+from audiofile import read_any  # noqa: E402
+from loudness import loudness  # noqa: E402
+
+MUSIC = ["ANCIENT RUINS - NewAge MSCNEW2_33.ogg", "SCI-FI-AMBIENCE_GEN-HDF-20485.ogg",
+         "LOST CIVILIZATION - NewAge MSCNEW2_41.ogg", "ULTIMATE CHALLENGE - Corporate MSCSPR1_61.ogg"]
+# effect file -> longest allowed duration in seconds
+EFFECTS = {"PopVocal CTE02_09.6.wav": 1.0, "SCI-FI-PASS-BY_GEN-HDF-20746.ogg": 2.0,
+           "HUMAN-SCREAM_GEN-HDF-15252.wav": 1.5, "RockImpact CTE02_24.1.wav": 3.0,
+           "Electricity_Spark_Activate.ogg": 2.0}
+MUSIC_PEAK_LIMIT_DB = -0.5
+EFFECT_PEAK_LIMIT_DB = -1.0
+LOUDNESS_SPREAD_DB = 1.0
+RMS_SPREAD_DB = 2.0
+TOTAL_SIZE_LIMIT = 15 * 1024 * 1024
+
+
+class Report:
+    def __init__(self):
+        self.passed = 0
+        self.failed = 0
+
+    def expect(self, ok, what):
+        if ok:
+            self.passed += 1
+        else:
+            self.failed += 1
+        print(("  ok    " if ok else "  FAIL  ") + what)
+        return ok
+
+
+def sox_stats(path):
+    """Overall figures from `sox FILE -n stats` as a dict of floats, or None if sox cannot read it."""
+    run = subprocess.run(["sox", path, "-n", "stats"], capture_output=True, text=True)
+    if run.returncode != 0:
+        return None
+    figures = {}
+    for line in run.stderr.splitlines():
+        # "Pk lev dB      -1.87     -1.87     -2.24": a label, two or more spaces, then the values.
+        found = re.match(r"^([A-Za-z][A-Za-z .-]*?)\s{2,}(\S+)", line)
+        if found:
+            try:
+                figures[found.group(1)] = float(found.group(2))
+            except ValueError:
+                pass
+    return figures
+
+
+def ogg_is_vorbis(path):
+    run = subprocess.run(["ogginfo", path], capture_output=True, text=True)
+    return run.returncode == 0 and "type vorbis" in run.stdout
+
+
+def wav_format_ok(path):
+    import wave
+    with wave.open(path, "rb") as w:
+        return (w.getsampwidth() == 2 and w.getnchannels() in (1, 2)
+                and w.getframerate() in (44100, 22050) and w.getcomptype() == "NONE")
+
+
+def seam_is_smooth(sig):
+    """The step from the last sample to the first is no bigger than the track's ordinary steps, and
+    neither is the bend (the step compared with the one before it)."""
+    step = np.abs(np.diff(sig, axis=1))
+    bend = np.abs(np.diff(sig, n=2, axis=1))
+    seam_step = np.abs(sig[:, 0] - sig[:, -1])
+    seam_bend = np.abs(sig[:, 0] - 2.0 * sig[:, -1] + sig[:, -2])
+    return bool(np.all(seam_step <= np.percentile(step, 99.9))
+                and np.all(seam_bend <= np.percentile(bend, 99.9)))
+
+
+def edge_level_db(sig, rate, seconds, at_end):
+    m = int(seconds * rate)
+    part = sig[:, -m:] if at_end else sig[:, :m]
+    return 20.0 * np.log10(np.sqrt(np.mean(part ** 2)) + 1e-12)
+
+
+def check_common(report, path, name):
+    """Decodes, format, clipping and peak; returns (samples, rate, sox figures) or None."""
+    if not report.expect(os.path.isfile(path), name + ": exists"):
+        return None
+    stats = sox_stats(path)
+    if not report.expect(stats is not None and "Pk lev dB" in stats, name + ": sox reads it"):
+        return None
+    if name.endswith(".ogg"):
+        report.expect(ogg_is_vorbis(path), name + ": is Ogg Vorbis")
+    else:
+        report.expect(wav_format_ok(path), name + ": is 16-bit PCM WAV at 44.1 or 22.05 kHz")
+    try:
+        sig, rate = read_any(path)
+    except Exception as err:  # noqa: BLE001 - any decoding failure is the finding
+        report.expect(False, name + ": decodes (" + str(err) + ")")
+        return None
+    report.expect(sig.shape[1] > 0, name + ": decodes to %d samples" % sig.shape[1])
+    clipped = int(np.sum(np.abs(sig) >= 32767.0 / 32768.0))
+    report.expect(clipped == 0, name + ": no clipped samples (%d)" % clipped)
+    return sig, rate, stats
+
+
+def check_music(report, folder):
+    levels = {}
+    rms = {}
+    for name in MUSIC:
+        got = check_common(report, os.path.join(folder, name), name)
+        if not got:
+            continue
+        sig, rate, stats = got
+        seconds = sig.shape[1] / rate
+        report.expect(sig.shape[0] == 2 and rate == 44100, name + ": stereo at 44.1 kHz")
+        report.expect(seconds >= 60.0, name + ": lasts %.1f s (at least 60)" % seconds)
+        report.expect(stats["Pk lev dB"] < MUSIC_PEAK_LIMIT_DB,
+                      name + ": peak %.2f dBFS (under %.1f)" % (stats["Pk lev dB"], MUSIC_PEAK_LIMIT_DB))
+        report.expect(seam_is_smooth(sig), name + ": loop point joins without a click")
+        tail = edge_level_db(sig, rate, 0.5, at_end=True)
+        head = edge_level_db(sig, rate, 0.5, at_end=False)
+        report.expect(tail > -40.0 and head > -40.0,
+                      name + ": no fade at the loop point (head %.1f, tail %.1f dBFS)" % (head, tail))
+        levels[name] = loudness(sig)
+        rms[name] = stats["RMS lev dB"]
+        print("        loudness %.2f LUFS-like, RMS %.2f dBFS" % (levels[name], rms[name]))
+    if len(levels) == len(MUSIC):
+        spread = max(levels.values()) - min(levels.values())
+        report.expect(spread <= LOUDNESS_SPREAD_DB, "music: K-weighted loudness within %.1f dB (%.2f)"
+                      % (LOUDNESS_SPREAD_DB, spread))
+        spread = max(rms.values()) - min(rms.values())
+        report.expect(spread <= RMS_SPREAD_DB, "music: RMS within %.1f dB (%.2f)" % (RMS_SPREAD_DB, spread))
+
+
+def check_effects(report, folder):
+    for name, longest in EFFECTS.items():
+        got = check_common(report, os.path.join(folder, name), name)
+        if not got:
+            continue
+        sig, rate, stats = got
+        seconds = sig.shape[1] / rate
+        report.expect(0.1 <= seconds <= longest, name + ": lasts %.2f s (at most %.1f)" % (seconds, longest))
+        report.expect(stats["Pk lev dB"] < EFFECT_PEAK_LIMIT_DB,
+                      name + ": peak %.2f dBFS (under %.1f)" % (stats["Pk lev dB"], EFFECT_PEAK_LIMIT_DB))
+        report.expect(stats["RMS lev dB"] > -40.0, name + ": clearly audible (RMS %.1f dBFS)"
+                      % stats["RMS lev dB"])
+        edges = np.abs(sig[:, [0, -1]]).max()
+        report.expect(edges < 0.01, name + ": starts and ends in silence")
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Check the game's sound files.")
+    parser.add_argument("--dir", default="assets")
+    folder = parser.parse_args().dir
+    report = Report()
+    print("sound check of " + folder)
+    check_music(report, folder)
+    check_effects(report, folder)
+    total = sum(os.path.getsize(os.path.join(folder, n)) for n in MUSIC + list(EFFECTS)
+                if os.path.isfile(os.path.join(folder, n)))
+    report.expect(total < TOTAL_SIZE_LIMIT, "all nine files together: %.2f MB (under 15)" % (total / 1048576.0))
+    print("sound: %d passed, %d failed" % (report.passed, report.failed))
+    return 1 if report.failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
