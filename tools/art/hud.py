@@ -131,7 +131,8 @@ def damage_flash():
     return C.from_array(np.dstack([rgb, np.round(a / 5) * 5]))
 
 
-@picture("Blackscreen.png", "400x300 scaled 1 to 22", "plain black for the pause dim, the blink and fades")
+@picture("Blackscreen.png", "4000x3000",
+         "plain black for the pause dim (this size), the blink and the fades (scales 1 to 22)")
 def black():
     return C.new(16, 12, (0, 0, 0, 255))
 
@@ -141,8 +142,8 @@ def _smoothstep(e0, e1, x):
     return t * t * (3 - 2 * t)
 
 
-@picture("VISIBILITY.png", "2800x2100 and 2550x1950",
-         "darkness mask: black except a soft warm light cone from the centre toward +x and a glow about the centre")
+@picture("VISIBILITY.png", "2800x2100",
+         "darkness mask (also drawn 2550x1950): black except a soft warm light cone from the centre toward +x and a glow about the centre")
 def visibility():
     # 1400 x 1050 pixels: two units a pixel at the larger of the two drawn sizes.
     w, h = 1400, 1050

@@ -1,0 +1,82 @@
+#!/usr/bin/python3
+"""build.py -- makes every picture the game reads, its manifest and the contact sheet.
+
+Run from the repository root:  /usr/bin/python3 tools/art/build.py
+Writes assets/*.png, assets/MANIFEST.tsv and docs/art/contact-sheet.png. Every picture comes from fixed
+seeds and is written without metadata, so running it twice changes no file.
+"""
+import os
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, HERE)
+
+import canvas as C  # noqa: E402
+import contact  # noqa: E402
+import registry  # noqa: E402
+
+# Importing a drawing module registers its pictures.
+import world  # noqa: E402,F401
+import sprites  # noqa: E402,F401
+import items  # noqa: E402,F401
+import buttons  # noqa: E402,F401
+import hud  # noqa: E402,F401
+import screens  # noqa: E402,F401
+import levelselect  # noqa: E402,F401
+import splash  # noqa: E402,F401
+import credits  # noqa: E402,F401
+import previews  # noqa: E402,F401
+import fontsheet  # noqa: E402,F401
+
+ROOT = os.path.normpath(os.path.join(HERE, "..", ".."))
+ASSETS = os.path.join(ROOT, "assets")
+SHEET = os.path.join(ROOT, "docs", "art", "contact-sheet.png")
+
+
+def write_if_changed(path, data):
+    """Leave a file untouched when its bytes would not change, so its time stamp stays too."""
+    if os.path.exists(path):
+        with open(path, "rb") as f:
+            if f.read() == data:
+                return False
+    with open(path, "wb") as f:
+        f.write(data)
+    return True
+
+
+def png_bytes(img):
+    import io
+    buf = io.BytesIO()
+    C.save_png(img, buf)
+    return buf.getvalue()
+
+
+def main(argv):
+    only = set(argv[1:])
+    os.makedirs(ASSETS, exist_ok=True)
+    os.makedirs(os.path.dirname(SHEET), exist_ok=True)
+    names = [p[0] for p in registry.PICTURES]
+    dupes = {n for n in names if names.count(n) > 1}
+    if dupes:
+        sys.exit("build.py: pictures registered twice: %s" % ", ".join(sorted(dupes)))
+    made = []
+    changed = 0
+    cache = {}
+    for (name, maker, _blended, _drawn, _what) in registry.PICTURES:
+        if only and name not in only:
+            continue
+        if maker not in cache:
+            cache[maker] = C.finish(maker())
+        img = cache[maker]
+        changed += write_if_changed(os.path.join(ASSETS, name), png_bytes(img))
+        made.append((name, img))
+    if not only:
+        manifest = "\n".join(registry.manifest_lines()) + "\n"
+        changed += write_if_changed(os.path.join(ASSETS, "MANIFEST.tsv"), manifest.encode("utf-8"))
+        made.sort(key=lambda p: p[0].lower())
+        changed += write_if_changed(SHEET, png_bytes(contact.contact_sheet(made)))
+    print("build.py: %d pictures, %d files changed" % (len(made), changed))
+
+
+if __name__ == "__main__":
+    main(sys.argv)
