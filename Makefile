@@ -1,0 +1,31 @@
+# Quillon -- the front door. `make run` plays, `make test` checks everything.
+JOBS ?= 2
+
+.PHONY: all run build deps test assets bench clean
+
+all: build
+
+deps:
+	@tools/install-deps.sh run
+
+build: deps
+	@cmake -S . -B build/release -DCMAKE_BUILD_TYPE=Release -DQUILLON_TESTS=OFF >/dev/null
+	@cmake --build build/release -j$(JOBS)
+
+run: build
+	@tools/run-game.sh build/release/quillon
+
+test:
+	@tools/install-deps.sh test
+	@tools/run-tests.sh
+
+assets:
+	@tools/install-deps.sh assets
+	@tools/build-assets.sh
+
+bench:
+	@tools/install-deps.sh test
+	@tools/run-bench.sh
+
+clean:
+	rm -rf build

@@ -1,0 +1,23 @@
+// TestEnv.h -- what tests share: a private home folder, the output folder, screenshots, captured output.
+#pragma once
+
+#include <string>
+
+// The folder tests write their evidence to (screenshots, logs); made when missing.
+std::string TestOutputDir();
+
+// A fresh empty folder under the test output folder.
+std::string MakeTempDir(const std::string& prefix);
+
+// Points HOME at the folder and forgets any XDG documents setting, so that the save folder lies under it.
+void PointHomeAt(const std::string& folder);
+
+// Writes the client area of the current OpenGL window, as drawn by the last frame, to a PNG file.
+// Call it before the buffers swap (a present hook) or after drawing into the back buffer.
+bool SaveScreenshot(const std::string& path, int width, int height);
+
+// Reads one pixel of the back buffer (origin at the bottom left) as 0xAARRGGBB.
+unsigned int ReadPixel(int x, int y);
+
+std::string ReadFileText(const std::string& path);
+void WriteFileText(const std::string& path, const std::string& text);

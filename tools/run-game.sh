@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# run-game.sh -- starts Quillon from the folder that holds its pictures, sounds and level files.
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+binary="${1:-$root/build/release/quillon}"
+
+if [ -z "${DISPLAY:-}" ]; then
+  echo "Quillon needs a graphical desktop: no X display is set (DISPLAY is empty)." >&2
+  exit 1
+fi
+cd "$root/assets"
+exec "$binary"
