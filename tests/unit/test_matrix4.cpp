@@ -376,7 +376,7 @@ TEST(Matrix4, PrintWritesFourRowsBetweenDashes)
                   dashes);
 }
 
-TEST(Matrix4, OrthoOf800By600FromOneTo1000)
+TEST(Matrix4, OrthoOf800By600FromOneTo1000ScalesDepthByMinusTwoOver999)
 {
     float w = 800.0f, h = 600.0f, n = 1.0f, f = 1000.0f;
     Matrix4 m = Matrix4Ortho(&w, &h, &n, &f);

@@ -198,7 +198,7 @@ TEST(Vec2, LerpWithTTwoExtrapolatesPastTheSecondVector)
     EXPECT_EQ(r.y, 50.0f);
 }
 
-TEST(Vec2, LengthsAndDistancesOfAThreeFourFiveTriangle)
+TEST(Vec2, LengthsAndDistancesOfAThreeFourFiveTriangleComeOutExact)
 {
     KRVec2 a = V(3.0f, 4.0f);
     KRVec2 o = V(0.0f, 0.0f);
