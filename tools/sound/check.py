@@ -7,13 +7,16 @@ For every file: it exists, sox reads it, our own decoder reads it, the container
 the ones the game's loader expects, nothing clips and the peak stays under the ceiling. For music: at
 least 60 s long, 44.1 kHz stereo Ogg Vorbis, one common loudness (K-weighted and plain RMS), and the loop
 point joins without a click or a fade. For effects: short, starting and ending in silence.
+With --rebuild it also builds everything afresh and requires byte-identical files.
 Exits non-zero if any check fails; the last line reads 'N passed, N failed'.
 """
 import argparse
+import filecmp
 import os
 import re
 import subprocess
 import sys
+import tempfile
 
 import numpy as np
 
@@ -162,14 +165,32 @@ def check_effects(report, folder):
         report.expect(edges < 0.01, name + ": starts and ends in silence")
 
 
+def check_rebuild(report, folder):
+    """Build everything afresh into a temporary folder; each file must match the one in `folder`."""
+    builder = os.path.join(os.path.dirname(os.path.abspath(__file__)), "build.py")
+    with tempfile.TemporaryDirectory() as tmp:
+        subprocess.run([sys.executable, builder, "--out", tmp], check=True, stdout=subprocess.DEVNULL)
+        for name in MUSIC + list(EFFECTS):
+            fresh = os.path.join(tmp, name)
+            kept = os.path.join(folder, name)
+            same = (os.path.isfile(fresh) and os.path.isfile(kept)
+                    and filecmp.cmp(fresh, kept, shallow=False))
+            report.expect(same, name + ": a fresh build gives the same bytes")
+
+
 def main():
     parser = argparse.ArgumentParser(description="Check the game's sound files.")
     parser.add_argument("--dir", default="assets")
-    folder = parser.parse_args().dir
+    parser.add_argument("--rebuild", action="store_true",
+                        help="also rebuild everything (about a minute) and compare byte for byte")
+    args = parser.parse_args()
+    folder = args.dir
     report = Report()
     print("sound check of " + folder)
     check_music(report, folder)
     check_effects(report, folder)
+    if args.rebuild:
+        check_rebuild(report, folder)
     total = sum(os.path.getsize(os.path.join(folder, n)) for n in MUSIC + list(EFFECTS)
                 if os.path.isfile(os.path.join(folder, n)))
     report.expect(total < TOTAL_SIZE_LIMIT, "all nine files together: %.2f MB (under 15)" % (total / 1048576.0))
