@@ -127,8 +127,10 @@ def _volume(plus, seed):
     w, h = 76, 54
     img = C.new(w, h)
     img.alpha_composite(M.lapis_plate(w, h, seed, radius=8))
-    _speaker(img, (18, 4, 58, 32), plus)
-    T.gold_text(img, "VOLUME", (w / 2, 42), 13, stroke=1, shadow=1)
+    _speaker(img, (22, 3, 58, 29), plus)
+    label = "VOL UP" if plus else "VOL DOWN"
+    size = T.fit_size("VOL DOWN", P.FONT_DISPLAY, w - 10, 16, start=20)
+    T.gold_text(img, label, (w / 2, 41), size, stroke=1, shadow=1)
     return img
 
 

@@ -15,15 +15,21 @@ def _slab(seed, title, rows):
     img = M.stone_panel(w, h, seed, base=P.STONE_MID, radius=10)
     M.khekher_band(img, (10, 8, w - 10, 18))
     T.gold_text(img, title, (w / 2, 42), 28, stroke=2, shadow=2)
+    # The dash column is placed so that the widest name and the widest licence both fit.
+    size = 20
+    while True:
+        left = max(T.measure(a, P.FONT_BODY_BOLD, size, 1)[0] for (a, _b) in rows)
+        right = max(T.measure(b, P.FONT_BODY, size, 1)[0] for (_a, b) in rows)
+        if left + right + 28 <= w - 40 or size <= 12:
+            break
+        size -= 1
+    mid = 20 + ((w - 40) - (left + right + 28)) / 2 + left + 14
     y = 82
     step = (h - 96) / max(1, len(rows))
-    for (left, right) in rows:
-        if right:
-            T.plain_text(img, left, (w / 2 - 14, y), 20, P.CREAM, P.FONT_BODY_BOLD, stroke=1, anchor="rm")
-            T.plain_text(img, right, (w / 2 + 14, y), 20, P.GOLD_LIGHT, P.FONT_BODY, stroke=1, anchor="lm")
-            T.plain_text(img, "-", (w / 2, y), 20, P.GOLD, P.FONT_BODY, stroke=1)
-        else:
-            T.plain_text(img, left, (w / 2, y), 20, P.CREAM, P.FONT_BODY, stroke=1)
+    for (a, b) in rows:
+        T.plain_text(img, a, (mid - 14, y), size, P.CREAM, P.FONT_BODY_BOLD, stroke=1, anchor="rm")
+        T.plain_text(img, "-", (mid, y), size, P.GOLD, P.FONT_BODY, stroke=1)
+        T.plain_text(img, b, (mid + 14, y), size, P.GOLD_LIGHT, P.FONT_BODY, stroke=1, anchor="lm")
         y += step
     return img
 
@@ -46,7 +52,7 @@ def credits_libraries():
 def credits_more():
     return _slab(133, "WITH THANKS TO", [("stb_image", "public domain or MIT licence"),
                                          ("FreeType", "FreeType Licence or GPL 2"),
-                                         ("Pictures made with Python, Pillow and NumPy", "HPND and BSD licences")])
+                                         ("Picture tools: Python, Pillow, NumPy", "PSF, HPND and BSD licences")])
 
 
 @picture("credits4.png", "801.6x180", "credits: the fonts and their licences, and thanks for playing")

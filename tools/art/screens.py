@@ -20,9 +20,10 @@ from registry import picture
 def title():
     w, h = 800, 200
     img = C.new(w, h)
-    T.gold_text(img, "QUILLON", (w / 2, 92), 118, stroke=3, shadow=5)
-    M.stripe_band(img, (150, 160, 650, 168), [P.GOLD_LIGHT, P.GOLD, P.GOLD_DARK, P.LAPIS], [2, 2, 2, 2])
-    M.hieroglyph_row(img, (190, 170, 610, 196), 61, 24, mode="paint", color=P.GOLD)
+    # Drawn with its centre 250 below the view's centre, so only the top 150 rows are on screen.
+    T.gold_text(img, "QUILLON", (w / 2, 62), 104, stroke=3, shadow=4)
+    M.stripe_band(img, (170, 114, 630, 120), [P.GOLD_LIGHT, P.GOLD, P.GOLD_DARK], [2, 2, 2])
+    M.hieroglyph_row(img, (200, 123, 600, 145), 61, 20, mode="paint", color=P.GOLD)
     img = C.glow(img, 10, P.VOID + (0,), 1.6)
     return img
 

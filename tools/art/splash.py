@@ -36,9 +36,12 @@ def publisher_logo():
     w, h = 610, 178
     img = C.new(w, h)
     beams = C.SSLayer(w, h)
-    beams.poly([(92, 44), (0, 10), (0, 70)], P.FLAME + (70,))
-    beams.poly([(92, 44), (200, 8), (200, 74)], P.FLAME + (70,))
-    img.alpha_composite(beams.image())
+    beams.poly([(92, 44), (0, 10), (0, 70)], P.FLAME + (110,))
+    beams.poly([(92, 44), (200, 8), (200, 74)], P.FLAME + (110,))
+    beam = C.to_array(beams.image())
+    xs = np.arange(w, dtype=np.float64)
+    beam[..., 3] *= np.clip(1 - np.abs(xs - 92) / 110.0, 0, 1)[None, :]
+    img.alpha_composite(C.from_array(beam))
     L = C.SSLayer(w, h)
     _lighthouse(L, 92, 168, 150)
     img.alpha_composite(C.outline(L.image(), 2, P.VOID + (255,)))
