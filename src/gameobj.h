@@ -3,7 +3,19 @@
 // Every game state keeps its own pool record (templates, instances and the bound on kind numbers) as a file
 // static, fills it afresh at each Load, and reaches it through the free functions below. A state also declares
 // its own thin gameObjInstCreate without the pool argument that forwards to these, so its code reads as if the
-// pool were its alone (it is).
+// pool were its alone (it is):
+//
+//     static GameObjPool sPool;
+//     static GameObjInst* gameObjInstCreate(u32 type, f32 scale, const KRVec2* pPos, const KRVec2* pVel,
+//                                           f32 dir, const KRVec2* pAux)
+//     {
+//         return gameObjInstCreate(&sPool, type, scale, pPos, pVel, dir, pAux);
+//     }
+//
+// Load:   GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM), then register kinds (gameobjmesh.h).
+// Init:   create; the level file readers take the state's gameObjInstCreate (levelfile.h).
+// Free:   GameObjPoolDestroyAll(&sPool).
+// Unload: release the meshes and textures (gameobjmesh.h).
 #pragma once
 
 #include "KRMtx33.h"
