@@ -166,11 +166,18 @@ void KRGfxPrint(u32 base, const char* format, int32_t x, int32_t y, float red, f
     KRGfxUploadViewMatrix(gKRWinScaleX * kThird, gKRWinScaleY * kThird);
 
     KRGfxSetBlendColor(red, green, blue, 1.0f);
+    // The raster position goes through the active vertex shader. Drivers feed its position attribute either from
+    // the raster coordinates or from attribute 0's current value (Mesa does the latter): positions sit on
+    // attribute 0 in both programs, and both are given.
+    glVertexAttrib4f(0, (float)x, (float)y, 0.0f, 1.0f);
     glRasterPos2f((float)x, (float)y);
 
     char text[256];
     KRGfxFormatPrintText(text, format, x, y, red, green, blue);
 
+    // The bitmaps' fragments run through the active fragment shader: the blend colour gives them their colour.
+    // Their alpha comes from the program's varyings, which Mesa leaves at zero for the colour program, so text
+    // there shows only with blending off.
     glPushAttrib(GL_LIST_BIT);
     glListBase(base - (u32)kFirstChar);
     glCallLists((GLsizei)std::strlen(text), GL_UNSIGNED_BYTE, text);
