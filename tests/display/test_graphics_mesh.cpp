@@ -245,6 +245,7 @@ TEST(GraphicsMesh, ADrawModeAboveThreePrintsItsNumberAndDrawsNothing)
         std::printf("lit %d\n", LitPixels(ReadRegion(0, 0, 799, 599)));
         KRGfxEnd();
         std::fflush(stdout);
+        KRGfxMeshFree(pMesh);
     });
     EXPECT_EQ(child.exitCode, 0);
     EXPECT_EQ(child.out, "Kestrel Runtime version: 3.03\n\nGraphics: OpenGL\nMesh Draw Mode 4 is invalid!\nlit 0\n");

@@ -291,6 +291,7 @@ TEST(GraphicsTexture, TextureModeSetsTheFiltersOfTheBoundTextureAndAnUnknownMode
         glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &minFilter);
         std::printf("unchanged %d\n", minFilter == GL_NEAREST);
         std::fflush(stdout);
+        KRGfxTextureUnload(pTexture);
     });
     EXPECT_EQ(child.exitCode, 0);
     EXPECT_EQ(child.out, "Kestrel Runtime version: 3.03\n\nGraphics: OpenGL\nlinear 1\nnearest 1\n"
@@ -308,6 +309,7 @@ TEST(GraphicsTexture, SavingATextureToAFileSavesNothingAndSaysSo)
         KRGfxSaveTextureToFile(nullptr, target.c_str());
         KRGfxSaveTextureToFile(pTexture, nullptr);
         std::fflush(stdout);
+        KRGfxTextureUnload(pTexture);
     });
     EXPECT_EQ(child.exitCode, 0);
     EXPECT_EQ(child.out, "Kestrel Runtime version: 3.03\n\nGraphics: OpenGL\n"
