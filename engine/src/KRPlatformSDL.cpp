@@ -31,7 +31,11 @@ static int SDLCreateWindow(const char* title, int x, int y, int clientWidth, int
     // The OpenGL entry points come through GLX, so the window lives on an X server (a Wayland desktop offers
     // one too); SDL_VIDEODRIVER in the environment still decides when it is set.
     SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
-    if (!SDL_WasInit(SDL_INIT_VIDEO) && SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
+    // A busy X server can refuse a new connection now and then; a few tries a moment apart get through.
+    for (int attempt = 0; attempt < 20 && !SDL_WasInit(SDL_INIT_VIDEO); ++attempt)
+        if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
+            SDL_Delay(25);
+    if (!SDL_WasInit(SDL_INIT_VIDEO))
         return 0;
     // One window per process; a second start-up (tests run several in one process) replaces the first.
     if (sWindow)
@@ -84,6 +88,18 @@ static void SDLSetFullScreen(int on, int screenWidth, int screenHeight, int clie
         SDL_SetWindowAlwaysOnTop(sWindow, SDL_TRUE);
         SDL_SetWindowSize(sWindow, screenWidth, screenHeight);
         SDL_SetWindowPosition(sWindow, 0, 0);
+        // A window manager takes the border away in its own time and may place the window by its old frame;
+        // it is put at the corner again until it stays there.
+        for (int check = 0; check < 10; ++check)
+        {
+            SDL_Delay(10);
+            SDL_PumpEvents();
+            int x = 0, y = 0;
+            SDL_GetWindowPosition(sWindow, &x, &y);
+            if (x == 0 && y == 0)
+                break;
+            SDL_SetWindowPosition(sWindow, 0, 0);
+        }
     }
     else
     {
