@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # run-tests.sh -- builds the tests twice (plain, and with AddressSanitizer and UndefinedBehaviorSanitizer) and runs
-# every test of both builds, then runs the fuzz targets of the file readers for a short time each (clang's
+# every test of both builds, after the fuzz targets of the file readers have run for a short time each (clang's
 # libFuzzer under AddressSanitizer, tree build/fuzz; FUZZ_SECONDS, default 20). Without an X display, or always
 # unless QUILLON_TEST_ON_DISPLAY=1, a private virtual X server of 1920 by 1080 is started for the run. Sound goes
 # to SDL's silent driver.
@@ -52,8 +52,9 @@ run_fuzz() {
 }
 
 if [ "${1:-}" = "--inner" ] || { [ -n "${DISPLAY:-}" ] && [ "${QUILLON_TEST_ON_DISPLAY:-0}" = "1" ]; }; then
-  run_both
+  # The fuzzers first, so that the run ends with CTest's summary.
   run_fuzz
+  run_both
 else
   exec xvfb-run -a -s "-screen 0 1920x1080x24 -nolisten tcp" "$0" --inner
 fi
