@@ -34,7 +34,7 @@ start_game() {
     sleep 0.1
   done
   [ -n "$WID" ] || fail "no window titled Quillon appeared"
-  xdotool windowfocus --sync "$WID" 2>/dev/null || true
+  focus_game
 }
 
 # Waits until the window's size is WIDTHxHEIGHT (up to 5 s).
@@ -60,11 +60,18 @@ screen_size() {
   xdpyinfo | awk '/dimensions:/ && !done {print $2; done=1}'
 }
 
-# Holds a key long enough for a polled frame to see it.
+# Gives the game's window the keyboard: through the window manager when one runs, directly otherwise.
+focus_game() {
+  xdotool windowactivate --sync "$WID" >/dev/null 2>&1 || xdotool windowfocus --sync "$WID" >/dev/null 2>&1 || true
+}
+
+# Holds a key long enough for a polled frame to see it, as a real key press through the X server's input
+# extension (a key of xdotool's --window option is a sent event, which a window without focus may not see).
 press_key() {
-  xdotool keydown --window "$WID" "$1"
+  focus_game
+  xdotool keydown "$1"
   sleep 0.15
-  xdotool keyup --window "$WID" "$1"
+  xdotool keyup "$1"
   sleep 0.15
 }
 
