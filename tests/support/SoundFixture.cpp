@@ -1,0 +1,32 @@
+// SoundFixture.cpp -- set-up and tear-down of the tests that bring up sound.
+#include "SoundFixture.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+void SoundFixture::SetUp()
+{
+    const char* driver = std::getenv("SDL_AUDIODRIVER");
+    mSavedDriver = driver ? driver : "";
+    // SDL's silent driver unless the test asks for another, also when the binary runs outside CTest.
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    mDir = MakeTempDir("sound");
+    ASSERT_FALSE(mDir.empty());
+}
+
+void SoundFixture::TearDown()
+{
+    SoundShutdownForTest();
+    if (!mMix.empty())
+        std::remove(mMix.c_str()); // the disk driver writes tens of megabytes a second
+    if (mSavedDriver.empty())
+        unsetenv("SDL_AUDIODRIVER");
+    else
+        setenv("SDL_AUDIODRIVER", mSavedDriver.c_str(), 1);
+}
+
+std::string SoundFixture::UseDisk()
+{
+    mMix = UseDiskAudio(mDir);
+    return mMix;
+}

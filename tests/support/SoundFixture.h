@@ -1,0 +1,26 @@
+// SoundFixture.h -- a test that brings up the sound wrapper: a private folder for its sound files and, at the
+// end, the device and every static of the wrapper put back as at program start, so that the next MusicInit in
+// the same process starts from scratch.
+#pragma once
+
+#include "SoundFiles.h"
+#include "TestEnv.h"
+#include "fmodsound.h"
+#include "fmodsound_internal.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+class SoundFixture : public ::testing::Test
+{
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Mix goes to the disk driver (call before MusicInit); returns its path.
+    std::string UseDisk();
+
+    std::string mDir;  // the test's own folder for the files it makes
+    std::string mMix;  // the disk driver's output, when used
+    std::string mSavedDriver;
+};
