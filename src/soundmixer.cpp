@@ -33,6 +33,9 @@ static const int kBufferFrames = 1024;
 static SoundSystem sSystem = {0, 0, 0, 0};
 static unsigned char sAudioUp = 0;  // the audio subsystem was started here
 static unsigned char sMixerOpen = 0; // the device is open
+// The device the mixer opened, found by asking SDL which one plays: its lock holds the audio thread off while a
+// play is set up in several steps. 0 when it could not be found; the steps are then merely very close together.
+static SDL_AudioDeviceID sDevice = 0;
 
 static std::vector<SoundSample*> sSamples;
 static std::vector<SoundStream*> sStreams;
@@ -134,6 +137,26 @@ static int FreeOrOldestChannel()
     return oldest;
 }
 
+static SDL_AudioDeviceID FindMixerDevice()
+{
+    for (SDL_AudioDeviceID id = 1; id <= 32; ++id)
+        if (SDL_GetAudioDeviceStatus(id) != SDL_AUDIO_STOPPED)
+            return id;
+    return 0;
+}
+
+static void LockMixer()
+{
+    if (sDevice)
+        SDL_LockAudioDevice(sDevice);
+}
+
+static void UnlockMixer()
+{
+    if (sDevice)
+        SDL_UnlockAudioDevice(sDevice);
+}
+
 // With no usable device, SDL's silent driver takes its place, whatever driver the environment asked for.
 static bool StartSilentDriver()
 {
@@ -180,6 +203,7 @@ SoundResult SoundSystemInit(SoundSystem* system, int32_t channels)
             return Fail(SOUND_ERR_INIT, Mix_GetError());
     }
     sMixerOpen = 1;
+    sDevice = FindMixerDevice();
     Mix_Init(MIX_INIT_OGG);
 
     sSystem.channels = std::min(std::max(channels, 1), kSoundChannelCount);
@@ -246,9 +270,12 @@ SoundResult SoundPlaySample(SoundSystem* system, int32_t channelId, SoundSample*
         return Fail(SOUND_ERR_HANDLE, "no such channel");
 
     // The old play is cut off before the level goes back to full, so it is never heard louder than it was.
+    LockMixer();
     Mix_HaltChannel(index);
     Mix_Volume(index, MIX_MAX_VOLUME);
-    if (Mix_PlayChannel(index, sample->chunk, 0) != index)
+    int started = Mix_PlayChannel(index, sample->chunk, 0);
+    UnlockMixer();
+    if (started != index)
         return Fail(SOUND_ERR_PLAY, Mix_GetError());
     sChannelSample[index] = sample;
     sChannelSerial[index] = NextSerial();
@@ -296,17 +323,16 @@ SoundResult SoundPlayStream(SoundSystem* system, SoundStream* stream, unsigned c
     if (!IsLiveStream(stream))
         return Fail(SOUND_ERR_HANDLE, "the stream is not open");
 
+    // The mixer cannot start paused: the audio thread is held off until the new play stands still at its start.
+    LockMixer();
     Mix_HaltMusic();
-    // A paused start is made silent until it stands still at its beginning, as the mixer cannot start paused.
-    Mix_VolumeMusic(paused ? 0 : MIX_MAX_VOLUME);
-    if (Mix_PlayMusic(stream->music, loop ? -1 : 0) != 0)
-        return Fail(SOUND_ERR_PLAY, Mix_GetError());
-    if (paused)
-    {
+    Mix_VolumeMusic(MIX_MAX_VOLUME);
+    int failed = Mix_PlayMusic(stream->music, loop ? -1 : 0);
+    if (!failed && paused)
         Mix_PauseMusic();
-        Mix_RewindMusic();
-        Mix_VolumeMusic(MIX_MAX_VOLUME);
-    }
+    UnlockMixer();
+    if (failed)
+        return Fail(SOUND_ERR_PLAY, Mix_GetError());
     sStreamOnVoice = stream;
     sStreamSerial = NextSerial();
     *channel = SoundChannel{kSoundStreamVoice, sStreamSerial};
@@ -402,6 +428,7 @@ void SoundSystemShutdownForTest()
     sSystem = SoundSystem{0, 0, 0, 0};
     sAudioUp = 0;
     sMixerOpen = 0;
+    sDevice = 0;
     for (int i = 0; i < kSoundChannelCount; ++i)
     {
         sChannelSerial[i] = 0;

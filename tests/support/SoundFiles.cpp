@@ -87,12 +87,12 @@ std::string WriteRampFile(const std::string& dir, const char* name, double secon
     return path;
 }
 
-std::string UseDiskAudio(const std::string& dir)
+std::string UseDiskAudio(const std::string& dir, int delayMs)
 {
     std::string path = dir + "/mix.raw";
     setenv("SDL_AUDIODRIVER", "disk", 1);
     setenv("SDL_DISKAUDIOFILE", path.c_str(), 1);
-    setenv("SDL_DISKAUDIODELAY", "0", 1);
+    setenv("SDL_DISKAUDIODELAY", std::to_string(delayMs).c_str(), 1);
     return path;
 }
 

@@ -24,9 +24,10 @@ const int kRampBase = 100;
 const int kRampFramesPerStep = 32;
 std::string WriteRampFile(const std::string& dir, const char* name, double seconds, int sign);
 
-// Points SDL's audio at the disk driver, writing flat out into a fresh file in dir; call before MusicInit.
-// Returns the file's path.
-std::string UseDiskAudio(const std::string& dir);
+// Points SDL's audio at the disk driver, writing into a fresh file in dir; call before MusicInit. With a delay of
+// 0 the driver runs flat out (hundreds of times real time); each millisecond of delay per mixing buffer of 1024
+// frames slows it to about 23 times real time divided by the delay. Returns the file's path.
+std::string UseDiskAudio(const std::string& dir, int delayMs = 0);
 // Frames of the mix surely written after every call made so far: those on disk plus what may sit in buffers.
 int64_t DiskAudioMark(const std::string& path);
 // Frames on disk so far: every one of them was mixed before the calls made after this.

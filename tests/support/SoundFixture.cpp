@@ -25,8 +25,14 @@ void SoundFixture::TearDown()
         setenv("SDL_AUDIODRIVER", mSavedDriver.c_str(), 1);
 }
 
-std::string SoundFixture::UseDisk()
+std::string SoundFixture::UseDisk(int delayMs)
 {
-    mMix = UseDiskAudio(mDir);
+    mMix = UseDiskAudio(mDir, delayMs);
     return mMix;
+}
+
+const char* SoundFixture::Keep(const std::string& text)
+{
+    mKept.push_back(text);
+    return mKept.back().c_str();
 }

@@ -8,6 +8,7 @@
 #include "fmodsound.h"
 #include "fmodsound_internal.h"
 
+#include <deque>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -17,10 +18,14 @@ class SoundFixture : public ::testing::Test
     void SetUp() override;
     void TearDown() override;
 
-    // Mix goes to the disk driver (call before MusicInit); returns its path.
-    std::string UseDisk();
+    // Mix goes to the disk driver (call before MusicInit); returns its path. See UseDiskAudio for the delay.
+    std::string UseDisk(int delayMs = 0);
+    // The wrapper keeps file names without copying them, as the game passes literals: a name made at run time
+    // must live as long as the test. Returns the kept text.
+    const char* Keep(const std::string& text);
 
     std::string mDir;  // the test's own folder for the files it makes
     std::string mMix;  // the disk driver's output, when used
     std::string mSavedDriver;
+    std::deque<std::string> mKept;
 };
