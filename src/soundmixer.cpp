@@ -56,6 +56,13 @@ static SoundResult Fail(SoundResult result, const char* reason)
     return result;
 }
 
+// The reason, with the file it concerns.
+static SoundResult FailFile(const char* fileName, const char* reason)
+{
+    std::snprintf(sError, sizeof(sError), "%s: %s", fileName, reason && *reason ? reason : "cannot be read");
+    return SOUND_ERR_FILE;
+}
+
 static uint32_t NextSerial()
 {
     uint32_t serial = sNextSerial++;
@@ -229,9 +236,12 @@ SoundResult SoundCreateSample(SoundSystem* system, const char* fileName, SoundSa
     CollectSamples();
     if (!fileName)
         return Fail(SOUND_ERR_FILE, "no file name");
-    Mix_Chunk* chunk = Mix_LoadWAV(fileName);
+    SDL_RWops* file = SDL_RWFromFile(fileName, "rb");
+    if (!file)
+        return FailFile(fileName, SDL_GetError());
+    Mix_Chunk* chunk = Mix_LoadWAV_RW(file, 1);
     if (!chunk)
-        return Fail(SOUND_ERR_FILE, Mix_GetError());
+        return FailFile(fileName, Mix_GetError());
     SoundSample* sample = new SoundSample{chunk, 0};
     sSamples.push_back(sample);
     *outSample = sample;
@@ -292,7 +302,7 @@ SoundResult SoundCreateStream(SoundSystem* system, const char* fileName, SoundSt
         return Fail(SOUND_ERR_FILE, "no file name");
     Mix_Music* music = Mix_LoadMUS(fileName);
     if (!music)
-        return Fail(SOUND_ERR_FILE, Mix_GetError());
+        return FailFile(fileName, Mix_GetError());
     SoundStream* stream = new SoundStream{music};
     sStreams.push_back(stream);
     *outStream = stream;

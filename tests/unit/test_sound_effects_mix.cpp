@@ -5,6 +5,7 @@
 #include "SoundFixture.h"
 
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -14,74 +15,83 @@ const int kWindow = 4410;
 class SoundEffectsMix : public SoundFixture
 {
   protected:
-    void SetUp() override
+    // Makes the test's files first, while nothing plays yet, then starts sound.
+    void Start(std::initializer_list<int16_t> levels)
     {
-        SoundFixture::SetUp();
+        for (int16_t value : levels)
+            mFiles[value] = Keep(WriteLevelFile(mDir, ("level" + std::to_string(value) + ".wav").c_str(),
+                                                kLongSeconds, value));
         UseDisk(1);
         MusicInit();
     }
 
-    std::string Level(const char* name, int16_t value) { return WriteLevelFile(mDir, name, kLongSeconds, value); }
+    // The file of constant value `value`, made by Start.
+    const char* Level(int16_t value) { return mFiles.at(value); }
 
     // The five steps of every effect play, with the instance and its play operation.
-    static void PlayFive(SoundEffect& instance, const std::string& file, void (SoundEffect::*play)(float))
+    static void PlayFive(SoundEffect& instance, const char* file, void (SoundEffect::*play)(float))
     {
         SoundEffect* effect = new SoundEffect(1);
-        effect->Load(file.c_str());
+        effect->Load(file);
         instance.Assign(effect);
         float volume = gMusic.GetVolume();
         (instance.*play)(volume);
     }
 
     std::vector<int16_t> Next() { return DiskAudioNext(mMix, kWindow); }
+
+    std::map<int16_t, const char*> mFiles;
 };
 
 } // namespace
 
 TEST_F(SoundEffectsMix, ReusePlayCutsOffThePreviousReusePlay)
 {
-    PlayFive(gEffectGravity, Level("gravity.wav", 1000), &SoundEffect::PlayReuse);
+    Start({1000, 3000});
+    PlayFive(gEffectGravity, Level(1000), &SoundEffect::PlayReuse);
     EXPECT_TRUE(AllEqual(Next(), 500)) << "the gravity sound at volume 0.5";
-    PlayFive(gEffectJump, Level("jump.wav", 3000), &SoundEffect::PlayReuse);
+    PlayFive(gEffectJump, Level(3000), &SoundEffect::PlayReuse);
     EXPECT_TRUE(AllEqual(Next(), 1500)) << "the jump alone: the gravity sound is cut off";
-    PlayFive(gEffectGravity, Level("gravity.wav", 1000), &SoundEffect::PlayReuse);
+    PlayFive(gEffectGravity, Level(1000), &SoundEffect::PlayReuse);
     EXPECT_TRUE(AllEqual(Next(), 500)) << "and the other way round";
 }
 
 TEST_F(SoundEffectsMix, FreePlaysMix)
 {
-    PlayFive(gEffectScream, Level("scream.wav", 1000), &SoundEffect::PlayScream);
-    PlayFive(gEffectRock, Level("rock.wav", 3000), &SoundEffect::PlayRock);
+    Start({1000, 3000});
+    PlayFive(gEffectScream, Level(1000), &SoundEffect::PlayScream);
+    PlayFive(gEffectRock, Level(3000), &SoundEffect::PlayRock);
     EXPECT_TRUE(AllEqual(Next(), 2000)) << "500 + 1500";
 }
 
 TEST_F(SoundEffectsMix, ReuseAndFreePlaysMix)
 {
-    PlayFive(gEffectJump, Level("jump.wav", 1000), &SoundEffect::PlayReuse);
-    PlayFive(gEffectScream, Level("scream.wav", 3000), &SoundEffect::PlayScream);
+    Start({1000, 3000});
+    PlayFive(gEffectJump, Level(1000), &SoundEffect::PlayReuse);
+    PlayFive(gEffectScream, Level(3000), &SoundEffect::PlayScream);
     EXPECT_TRUE(AllEqual(Next(), 2000));
 }
 
 TEST_F(SoundEffectsMix, FourthFreePlayWithThreeChannelsBusyCutsOffTheOldest)
 {
-    PlayFive(gEffectScream, Level("a.wav", 1000), &SoundEffect::PlayScream);
-    PlayFive(gEffectRock, Level("b.wav", 2000), &SoundEffect::PlayRock);
-    PlayFive(gEffectScream, Level("c.wav", 4000), &SoundEffect::PlayScream);
+    Start({1000, 2000, 4000, 8000});
+    PlayFive(gEffectScream, Level(1000), &SoundEffect::PlayScream);
+    PlayFive(gEffectRock, Level(2000), &SoundEffect::PlayRock);
+    PlayFive(gEffectScream, Level(4000), &SoundEffect::PlayScream);
     EXPECT_TRUE(AllEqual(Next(), 3500)) << "three channels busy";
-    PlayFive(gEffectRock, Level("d.wav", 8000), &SoundEffect::PlayRock);
+    PlayFive(gEffectRock, Level(8000), &SoundEffect::PlayRock);
     EXPECT_TRUE(AllEqual(Next(), 1000 + 2000 + 4000)) << "the first play was stolen";
 }
 
 TEST_F(SoundEffectsMix, SparkSetsItsVolumeOnTheRocksChannelAndStaysAtFullItself)
 {
-    // The name is not copied: it must outlive the play, as the game's literals do.
-    std::string rockFile = Level("rock.wav", 4000);
+    Start({2000, 4000});
     SoundEffect* rock = new SoundEffect(1);
-    rock->Load(rockFile.c_str());
+    rock->Load(Level(4000));
     gEffectRock.Assign(rock);
     gEffectRock.PlayRock(1.0f);
     EXPECT_TRUE(AllEqual(Next(), 4000));
-    PlayFive(gEffectSpark, Level("spark.wav", 2000), &SoundEffect::PlaySpark);
+    PlayFive(gEffectSpark, Level(2000), &SoundEffect::PlaySpark);
     EXPECT_TRUE(AllEqual(Next(), 2000 + 2000)) << "rock brought to 0.5, spark at full";
     EXPECT_EQ(SoundChannelGetVolume(EffectGetSparkChannel()), 1.0f);
     EXPECT_EQ(SoundChannelGetVolume(EffectGetRockChannel()), 0.5f);
@@ -89,9 +99,9 @@ TEST_F(SoundEffectsMix, SparkSetsItsVolumeOnTheRocksChannelAndStaysAtFullItself)
 
 TEST_F(SoundEffectsMix, VolumeOutsideZeroToOneLeavesThePlayAtFullLevel)
 {
-    std::string screamFile = Level("scream.wav", 1000);
+    Start({1000});
     SoundEffect* scream = new SoundEffect(1);
-    scream->Load(screamFile.c_str());
+    scream->Load(Level(1000));
     gEffectScream.Assign(scream);
     gEffectScream.PlayScream(1.5f);
     EXPECT_TRUE(AllEqual(Next(), 1000));
@@ -99,14 +109,13 @@ TEST_F(SoundEffectsMix, VolumeOutsideZeroToOneLeavesThePlayAtFullLevel)
 
 TEST_F(SoundEffectsMix, WhatPlaysIsTheSoundMadeLastWhateverTheInstance)
 {
-    std::string jumpFile = Level("jump.wav", 1000);
-    std::string rockFile = Level("rock.wav", 3000);
+    Start({1000, 3000});
     SoundEffect* jump = new SoundEffect(1);
-    jump->Load(jumpFile.c_str());
+    jump->Load(Level(1000));
     gEffectJump.Assign(jump);
     // Another effect is loaded but never assigned: its sound is now the shared one.
     SoundEffect* rock = new SoundEffect(1);
-    rock->Load(rockFile.c_str());
+    rock->Load(Level(3000));
     gEffectJump.PlayReuse(gMusic.GetVolume());
     EXPECT_TRUE(AllEqual(Next(), 1500));
     delete rock;
@@ -114,10 +123,10 @@ TEST_F(SoundEffectsMix, WhatPlaysIsTheSoundMadeLastWhateverTheInstance)
 
 TEST_F(SoundEffectsMix, EffectsMixWithTheMusic)
 {
-    std::string musicFile = Level("music.wav", 2000);
-    MusicSetTrack(musicFile.c_str());
+    Start({2000, 3000});
+    MusicSetTrack(Level(2000));
     MusicPlay(0);
     MusicUpdate();
-    PlayFive(gEffectJump, Level("jump.wav", 3000), &SoundEffect::PlayReuse);
+    PlayFive(gEffectJump, Level(3000), &SoundEffect::PlayReuse);
     EXPECT_TRUE(AllEqual(Next(), 1000 + 1500));
 }

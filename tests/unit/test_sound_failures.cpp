@@ -47,6 +47,7 @@ TEST_F(SoundFailures, MissingEffectFileStopsAtItsPlayWithTheEffectCheck)
         std::printf("went on\n");
     });
     ExpectReport(result, "m_result == FMOD_OK", "CreateSharedSound", "fmodsound_effects.cpp");
+    EXPECT_NE(result.out.find("no such effect.wav"), std::string::npos) << "the reason names the file";
 }
 
 TEST_F(SoundFailures, PlayBeforeAnyTrackIsOpenStopsWithTheMusicCheck)

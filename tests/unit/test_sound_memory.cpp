@@ -14,7 +14,8 @@
 #endif
 #endif
 #ifdef QUILLON_ASAN
-#include <sanitizer/allocator_interface.h>
+// From the sanitizer runtime; GCC's packages do not ship the header that declares it.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {
