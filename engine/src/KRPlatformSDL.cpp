@@ -31,7 +31,11 @@ static int SDLCreateWindow(const char* title, int x, int y, int clientWidth, int
     // The OpenGL entry points come through GLX, so the window lives on an X server (a Wayland desktop offers
     // one too); SDL_VIDEODRIVER in the environment still decides when it is set.
     SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
-    if (!SDL_WasInit(SDL_INIT_VIDEO) && SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
+    // A busy X server can refuse a new connection now and then; a few tries a moment apart get through.
+    for (int attempt = 0; attempt < 20 && !SDL_WasInit(SDL_INIT_VIDEO); ++attempt)
+        if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
+            SDL_Delay(25);
+    if (!SDL_WasInit(SDL_INIT_VIDEO))
         return 0;
     // One window per process; a second start-up (tests run several in one process) replaces the first.
     if (sWindow)

@@ -17,7 +17,7 @@ from registry import picture
 
 CELL = 20
 COLS, ROWS = 26, 3
-SIZE = 13  # DejaVu Sans Mono Bold: caps, descenders and the edge fit inside a one-pixel clear margin
+SIZE = 14  # DejaVu Sans Mono Bold: caps, descenders and the edge fit inside a one-pixel clear margin
 BASELINE = 14
 
 

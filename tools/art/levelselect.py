@@ -47,9 +47,15 @@ def level_select_backdrop():
 
 @picture("level_selectbox.png", "456x264", "level selection: the framed slab behind the character attribute panel")
 def attribute_box():
+    # The panel's title is drawn before this box and sits over its top 52 rows, so the slab starts
+    # below it and only a gilded rule crosses the top.
     w, h = 456, 264
-    img = M.stone_panel(w, h, 113, base=P.mix(P.STONE_DARK, P.LAPIS_DARK, 0.35), radius=12, alpha=235)
-    M.hieroglyph_column(img, (8, 60, 26, h - 14), 114, 16)
+    top = 52
+    img = C.new(w, h)
+    slab = M.stone_panel(w, h - top, 113, base=P.mix(P.STONE_DARK, P.LAPIS_DARK, 0.35), radius=12, alpha=235)
+    img.alpha_composite(slab, dest=(0, top))
+    M.hieroglyph_column(img, (8, top + 12, 26, h - 14), 114, 16)
+    M.stripe_band(img, (6, 4, w - 6, 8), [P.GOLD_LIGHT, P.GOLD_DARK], [2, 2])
     return img
 
 

@@ -68,8 +68,16 @@ press_key() {
   sleep 0.15
 }
 
+# Asks the window to close, as a window manager's close button does. The virtual X server now and then loses a
+# message or a connection under load, so the request is repeated, as a person clicks again, until the game ends.
 close_window() {
-  /usr/bin/python3 "$E2E_LIB/close_window.py" "$WID"
+  for _ in 1 2 3; do
+    /usr/bin/python3 "$E2E_LIB/close_window.py" "$WID" 2>/dev/null || true
+    for _ in $(seq 1 30); do
+      kill -0 "$GAME_PID" 2>/dev/null || return 0
+      sleep 0.1
+    done
+  done
 }
 
 # Waits for the game to end (up to 10 s) and puts its exit status into GAME_STATUS.

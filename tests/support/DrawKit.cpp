@@ -1,0 +1,99 @@
+// DrawKit.cpp -- start-up on a real window, rectangles, PNG files and read-backs for the drawing tests.
+#include "DrawKit.h"
+
+#include "KRPlatformScripted.h"
+#include "KRSystem.h"
+
+#include <GL/glew.h>
+#include <SDL.h>
+#include <gtest/gtest.h>
+#include <stb_image_write.h>
+
+// A virtual X server that many test processes reach at once now and then drops a new connection during its
+// set-up, and SDL then reports no X11 at all. The video subsystem is brought up here with a few tries, so that
+// the engine's start finds it running.
+static void StartVideoWithRetries()
+{
+    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
+    for (int attempt = 0; attempt < 20 && !SDL_WasInit(SDL_INIT_VIDEO); ++attempt)
+    {
+        if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0)
+            break;
+        SDL_Delay(25);
+    }
+}
+
+void StartGraphicsWindowed()
+{
+    StartVideoWithRetries();
+    KRPlatformUse(&gKRPlatformScripted);
+    KRScriptReset();
+    ASSERT_EQ(KRSysInit(nullptr, 1, 800, 600, 1, 60, nullptr), 1);
+    KRGfxSetCamPosition(0.0f, 0.0f);
+    KRGfxSetBackgroundColor(0.0f, 0.0f, 0.0f);
+}
+
+void StartGraphicsFullScreen(int screenWidth, int screenHeight)
+{
+    StartGraphicsWindowed();
+    KRScriptSetScreenSize(screenWidth, screenHeight);
+    KRToogleFullScreen(true);
+    // The first frames after a resize may still be drawn at the old size.
+    for (int frame = 0; frame < 2; ++frame)
+    {
+        KRSysUpdate();
+        PresentEmptyFrame();
+    }
+}
+
+void PresentEmptyFrame()
+{
+    KRGfxStart();
+    KRGfxEnd();
+}
+
+KRGfxVertexList* MakeRectMesh(float halfWidth, float halfHeight, u32 color)
+{
+    KRGfxMeshStart();
+    KRGfxTriAdd(-halfWidth, -halfHeight, color, 0.0f, 1.0f, halfWidth, -halfHeight, color, 1.0f, 1.0f, -halfWidth,
+                halfHeight, color, 0.0f, 0.0f);
+    KRGfxTriAdd(halfWidth, -halfHeight, color, 1.0f, 1.0f, halfWidth, halfHeight, color, 1.0f, 0.0f, -halfWidth,
+                halfHeight, color, 0.0f, 0.0f);
+    return KRGfxMeshEnd();
+}
+
+bool WritePng(const std::string& path, int width, int height, const std::vector<u32>& pixels)
+{
+    std::vector<unsigned char> rgba(pixels.size() * 4);
+    for (size_t i = 0; i < pixels.size(); ++i)
+    {
+        rgba[i * 4 + 0] = (unsigned char)Red(pixels[i]);
+        rgba[i * 4 + 1] = (unsigned char)Green(pixels[i]);
+        rgba[i * 4 + 2] = (unsigned char)Blue(pixels[i]);
+        rgba[i * 4 + 3] = (unsigned char)(pixels[i] >> 24);
+    }
+    return stbi_write_png(path.c_str(), width, height, 4, rgba.data(), width * 4) != 0;
+}
+
+std::vector<u32> ReadRegion(int x, int y, int width, int height)
+{
+    std::vector<unsigned char> rgba((size_t)width * height * 4);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glReadBuffer(GL_BACK);
+    glReadPixels(x, y, width, height, GL_RGBA, GL_UNSIGNED_BYTE, rgba.data());
+    std::vector<u32> pixels((size_t)width * height);
+    for (size_t i = 0; i < pixels.size(); ++i)
+        pixels[i] = ((u32)rgba[i * 4 + 3] << 24) | ((u32)rgba[i * 4 + 0] << 16) | ((u32)rgba[i * 4 + 1] << 8) |
+                    rgba[i * 4 + 2];
+    return pixels;
+}
+
+void BeginTexturedFrame()
+{
+    KRGfxStart();
+    KRGfxSetBlendMode(KR_GFX_BM_NONE);
+    KRGfxSetRenderMode(KR_GFX_RM_TEXTURE);
+    KRGfxSetTintColor(1.0f, 1.0f, 1.0f, 1.0f);
+    KRGfxSetTransparency(1.0f);
+    KRGfxSetPosition(0.0f, 0.0f);
+}
