@@ -80,9 +80,12 @@ SoundResult SoundChannelGetPaused(SoundChannel channel, unsigned char* outPaused
 const char* SoundLastError();
 
 // For tests: what the mixer holds and plays right now.
-int32_t SoundLiveSampleCount();                   // decoded samples not yet freed
-unsigned char SoundChannelIsPlaying(SoundChannel channel); // 1 while the handle is current and sounding
-float SoundChannelGetVolume(SoundChannel channel);          // the level the mixer applies, -1 for a stale handle
+// Decoded samples not yet freed.
+int32_t SoundLiveSampleCount();
+// 1 while the handle is current and its play goes on (a paused play counts).
+unsigned char SoundChannelIsPlaying(SoundChannel channel);
+// The level the mixer applies on the handle's channel, from 0.0 to 1.0; -1 for a stale handle.
+float SoundChannelGetVolume(SoundChannel channel);
 // For tests: closes the device and the audio subsystem and forgets every sample, stream and handle, so that a
 // later SoundSystemCreate starts from scratch.
 void SoundSystemShutdownForTest();
