@@ -16,7 +16,7 @@ run: build
 	@tools/run-game.sh build/release/quillon
 
 test:
-	@tools/install-deps.sh test
+	@tools/install-deps.sh test assets
 	@tools/run-tests.sh
 
 assets:

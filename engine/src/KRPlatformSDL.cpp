@@ -88,6 +88,18 @@ static void SDLSetFullScreen(int on, int screenWidth, int screenHeight, int clie
         SDL_SetWindowAlwaysOnTop(sWindow, SDL_TRUE);
         SDL_SetWindowSize(sWindow, screenWidth, screenHeight);
         SDL_SetWindowPosition(sWindow, 0, 0);
+        // A window manager takes the border away in its own time and may place the window by its old frame;
+        // it is put at the corner again until it stays there.
+        for (int check = 0; check < 10; ++check)
+        {
+            SDL_Delay(10);
+            SDL_PumpEvents();
+            int x = 0, y = 0;
+            SDL_GetWindowPosition(sWindow, &x, &y);
+            if (x == 0 && y == 0)
+                break;
+            SDL_SetWindowPosition(sWindow, 0, 0);
+        }
     }
     else
     {
