@@ -1,8 +1,9 @@
 // SoundFixture.cpp -- set-up and tear-down of the tests that bring up sound.
 #include "SoundFixture.h"
 
-#include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 
 void SoundFixture::SetUp()
 {
@@ -17,8 +18,9 @@ void SoundFixture::SetUp()
 void SoundFixture::TearDown()
 {
     SoundShutdownForTest();
-    if (!mMix.empty())
-        std::remove(mMix.c_str()); // the disk driver writes tens of megabytes a second
+    // The disk driver writes tens of megabytes a second, and the made sounds run to megabytes too.
+    std::error_code ignored;
+    std::filesystem::remove_all(mDir, ignored);
     if (mSavedDriver.empty())
         unsetenv("SDL_AUDIODRIVER");
     else

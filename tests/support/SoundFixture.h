@@ -1,6 +1,6 @@
-// SoundFixture.h -- a test that brings up the sound wrapper: a private folder for its sound files and, at the
-// end, the device and every static of the wrapper put back as at program start, so that the next MusicInit in
-// the same process starts from scratch.
+// SoundFixture.h -- a test that brings up the sound wrapper: a private folder for its sound files, removed at the
+// end, when also the device and every static of the wrapper are put back as at program start, so that the next
+// MusicInit in the same process starts from scratch.
 #pragma once
 
 #include "SoundFiles.h"
