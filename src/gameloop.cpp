@@ -1,15 +1,16 @@
 // gameloop.cpp -- start-up and the two nested loops, every call in its fixed order.
 //
 // Owns:    gFrameDelta, gAppTime.
-// Drives:  the state manager's slots; per visit of a state: reset, input twice, Load (not on restart), Init,
-//          frames, Free, Unload (not before a restart); per frame: timer and clear, input, F1, Update, Draw,
-//          present and wait and pump, the window's end, the frame time.
+// Drives:  sound start before the engine; the state manager's slots; per visit of a state: reset, the music pump,
+//          input twice, Load (not on restart), Init, frames, Free, Unload (not before a restart); per frame: timer
+//          and clear, input, F1, Update, Draw, present and wait and pump, the window's end, the frame time.
 #include "gameloop.h"
 
 #include "KRGraphics.h"
 #include "KRInput.h"
 #include "KRFrameRateController.h"
 #include "KRSystem.h"
+#include "fmodsound.h"
 #include "gamestatemgr.h"
 
 float gFrameDelta = 0.0f;
@@ -19,6 +20,8 @@ static const unsigned char kKeyF1 = 0x70;
 
 void GameStartUp(int32_t firstState)
 {
+    // Sound comes up before the window exists.
+    MusicInit();
     // The result is deliberately not looked at: a failed start carries on unless the engine halted itself.
     KRSysInit(nullptr, 1, 800, 600, 1, 60, nullptr);
     KRSysSetWindowTitle("Quillon");
@@ -51,6 +54,8 @@ void GameMainLoop()
     while (gGameStateCurr != GS_QUIT)
     {
         KRSysReset();
+        // The loop's own sound pump, once per visit; states that have music pump it every frame themselves.
+        MusicUpdate();
         KRInputUpdate();
 
         if (gGameStateCurr == GS_RESTART)
