@@ -130,11 +130,20 @@ static void CollectSamples()
     }
 }
 
+// The three channels serve everything: while the music stream is open and playing (or paused) it holds one of
+// them, and effects share the rest.
+static int EffectChannelCount()
+{
+    int music = (Mix_PlayingMusic() || Mix_PausedMusic()) ? 1 : 0;
+    return std::max(sSystem.channels - music, 1);
+}
+
 // A channel that plays nothing, the lowest first; with all of them busy, the one whose play is oldest.
 static int FreeOrOldestChannel()
 {
     int oldest = 0;
-    for (int i = 0; i < sSystem.channels; ++i)
+    int count = EffectChannelCount();
+    for (int i = 0; i < count; ++i)
     {
         if (!Mix_Playing(i))
             return i;

@@ -130,3 +130,16 @@ TEST_F(SoundEffectsMix, EffectsMixWithTheMusic)
     PlayFive(gEffectJump, Level(3000), &SoundEffect::PlayReuse);
     EXPECT_TRUE(AllEqual(Next(), 1000 + 1500));
 }
+
+TEST_F(SoundEffectsMix, MusicHoldsOneOfTheThreeChannelsSoAThirdFreeEffectCutsOffTheOldest)
+{
+    Start({500, 1000, 2000, 4000});
+    MusicSetTrack(Level(500));
+    MusicPlay(0);
+    MusicUpdate();
+    PlayFive(gEffectScream, Level(1000), &SoundEffect::PlayScream);
+    PlayFive(gEffectRock, Level(2000), &SoundEffect::PlayRock);
+    EXPECT_TRUE(AllEqual(Next(), 250 + 500 + 1000)) << "music and two effects fill the three channels";
+    PlayFive(gEffectScream, Level(4000), &SoundEffect::PlayScream);
+    EXPECT_TRUE(AllEqual(Next(), 250 + 1000 + 2000)) << "the first effect was stolen, the music plays on";
+}
