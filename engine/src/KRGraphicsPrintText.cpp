@@ -34,8 +34,8 @@ u32 FloatBits(float value)
     return bits;
 }
 
-// Formats one conversion; spec holds the flags, width and precision with '%' and without length or type.
-std::string FormatOne(std::string spec, char type, bool wide, WordList* pArgs)
+// Formats one conversion; conversion holds the flags, width and precision with '%' and without length or type.
+std::string FormatOne(std::string conversion, char type, bool wide, WordList* pArgs)
 {
     char piece[512];
     piece[0] = 0;
@@ -44,20 +44,20 @@ std::string FormatOne(std::string spec, char type, bool wide, WordList* pArgs)
     case 'd':
     case 'i':
         if (wide)
-            std::snprintf(piece, sizeof(piece), (spec + "lld").c_str(), (long long)pArgs->TakeTwo());
+            std::snprintf(piece, sizeof(piece), (conversion + "lld").c_str(), (long long)pArgs->TakeTwo());
         else
-            std::snprintf(piece, sizeof(piece), (spec + type).c_str(), (int)pArgs->Take());
+            std::snprintf(piece, sizeof(piece), (conversion + type).c_str(), (int)pArgs->Take());
         break;
     case 'u':
     case 'o':
     case 'x':
     case 'X':
         if (wide)
-            std::snprintf(piece, sizeof(piece), (spec + "ll" + type).c_str(), (unsigned long long)pArgs->TakeTwo());
+            std::snprintf(piece, sizeof(piece), (conversion + "ll" + type).c_str(), (unsigned long long)pArgs->TakeTwo());
         else
-            std::snprintf(piece, sizeof(piece), (spec + type).c_str(), (unsigned)pArgs->Take());
+            std::snprintf(piece, sizeof(piece), (conversion + type).c_str(), (unsigned)pArgs->Take());
         break;
-    case 'c': std::snprintf(piece, sizeof(piece), (spec + 'c').c_str(), (int)(unsigned char)pArgs->Take()); break;
+    case 'c': std::snprintf(piece, sizeof(piece), (conversion + 'c').c_str(), (int)(unsigned char)pArgs->Take()); break;
     case 'f':
     case 'F':
     case 'e':
@@ -70,13 +70,13 @@ std::string FormatOne(std::string spec, char type, bool wide, WordList* pArgs)
         u64 bits = pArgs->TakeTwo();
         double value = 0.0;
         std::memcpy(&value, &bits, sizeof(value));
-        std::snprintf(piece, sizeof(piece), (spec + type).c_str(), value);
+        std::snprintf(piece, sizeof(piece), (conversion + type).c_str(), value);
         break;
     }
     case 'p': std::snprintf(piece, sizeof(piece), "%08X", (unsigned)pArgs->Take()); break;
     case 's':
     case 'n': pArgs->Take(); break;
-    default: return spec + type;
+    default: return conversion + type;
     }
     return piece;
 }
@@ -102,27 +102,27 @@ void KRGfxFormatPrintText(char out[256], const char* format, int32_t x, int32_t 
             text += *p++;
             continue;
         }
-        std::string spec = "%";
+        std::string conversion = "%";
         while (*p && std::strchr("-+ #0", *p))
-            spec += *p++;
+            conversion += *p++;
         // A star takes its number from the argument words too.
         if (*p == '*')
         {
-            spec += std::to_string((int)args.Take());
+            conversion += std::to_string((int)args.Take());
             ++p;
         }
         while (std::isdigit((unsigned char)*p))
-            spec += *p++;
+            conversion += *p++;
         if (*p == '.')
         {
-            spec += *p++;
+            conversion += *p++;
             if (*p == '*')
             {
-                spec += std::to_string((int)args.Take());
+                conversion += std::to_string((int)args.Take());
                 ++p;
             }
             while (std::isdigit((unsigned char)*p))
-                spec += *p++;
+                conversion += *p++;
         }
         bool wide = false;
         while (*p && std::strchr("hlLqjzt", *p))
@@ -134,7 +134,7 @@ void KRGfxFormatPrintText(char out[256], const char* format, int32_t x, int32_t 
         }
         if (!*p)
             break;
-        text += FormatOne(spec, *p++, wide, &args);
+        text += FormatOne(conversion, *p++, wide, &args);
     }
     if (text.size() > 255)
         text.resize(255);

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""spectrograms.py -- pictures of the four music tracks, for reading their structure by eye.
+"""sonograms.py -- pictures of the four music tracks, for reading their structure by eye.
 
-Run from the repository root after build.py:   /usr/bin/python3 tools/sound/spectrograms.py
-Writes docs/sound/<name>-spectrogram.png: both channels mixed, up to 8 kHz, time across.
+Run from the repository root after build.py:   /usr/bin/python3 tools/sound/sonograms.py
+Writes docs/sound/<name>-sonogram.png: both channels mixed, up to 8 kHz, time across.
 """
 import os
 import subprocess
@@ -19,7 +19,7 @@ def main():
     out = sys.argv[2] if len(sys.argv) > 2 else os.path.join("docs", "sound")
     os.makedirs(out, exist_ok=True)
     for short, name in TRACKS:
-        png = os.path.join(out, short + "-spectrogram.png")
+        png = os.path.join(out, short + "-sonogram.png")
         subprocess.run(["sox", os.path.join(src, name), "-n", "remix", "-", "rate", "16k",
                         "spectrogram", "-x", "1600", "-y", "513", "-z", "85", "-t", name,
                         "-c", "tools/sound/build.py", "-o", png], check=True)
