@@ -5,27 +5,11 @@
 #include "KRSystem.h"
 
 #include <GL/glew.h>
-#include <SDL.h>
 #include <gtest/gtest.h>
 #include <stb_image_write.h>
 
-// A virtual X server that many test processes reach at once now and then drops a new connection during its
-// set-up, and SDL then reports no X11 at all. The video subsystem is brought up here with a few tries, so that
-// the engine's start finds it running.
-static void StartVideoWithRetries()
-{
-    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
-    for (int attempt = 0; attempt < 20 && !SDL_WasInit(SDL_INIT_VIDEO); ++attempt)
-    {
-        if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0)
-            break;
-        SDL_Delay(25);
-    }
-}
-
 void StartGraphicsWindowed()
 {
-    StartVideoWithRetries();
     KRPlatformUse(&gKRPlatformScripted);
     KRScriptReset();
     ASSERT_EQ(KRSysInit(nullptr, 1, 800, 600, 1, 60, nullptr), 1);
