@@ -95,8 +95,8 @@ def filter_causal(x, response, tail=0.0):
     """Causal filtering of a finite sound; `tail` seconds of ringing are kept after its end."""
     n = x.shape[-1] + samples(tail)
     nfft = 1 << int(np.ceil(np.log2(2 * n + 1024)))
-    spec = _min_phase_spectrum(response, nfft)
-    y = np.fft.irfft(np.fft.rfft(x, nfft, axis=-1) * spec, nfft, axis=-1)
+    spectrum = _min_phase_spectrum(response, nfft)
+    y = np.fft.irfft(np.fft.rfft(x, nfft, axis=-1) * spectrum, nfft, axis=-1)
     return y[..., :n]
 
 
@@ -122,8 +122,8 @@ def filter_sweep(x, gain_at, frame=2048, circular=False):
         centre = (start + frame / 2 - frame) / SR
         if circular:
             centre = centre % (n / SR)
-        spec = np.fft.rfft(seg) * gain_at(centre, freqs)
-        out[start:start + frame] += np.fft.irfft(spec, frame)
+        spectrum = np.fft.rfft(seg) * gain_at(centre, freqs)
+        out[start:start + frame] += np.fft.irfft(spectrum, frame)
     # A periodic Hann window at a quarter hop sums to 2.
     return out[frame:frame + n] / 2.0
 

@@ -31,9 +31,9 @@ def loudness(sig):
     weight = _biquad_gain(_SHELF, freqs) * _biquad_gain(_LOWCUT, freqs)
     total = 0.0
     for ch in sig:
-        spec = np.fft.rfft(ch) * weight
+        spectrum = np.fft.rfft(ch) * weight
         # Parseval on the one-sided spectrum: mean square of the weighted signal.
-        power = (np.abs(spec[0]) ** 2 + 2.0 * np.sum(np.abs(spec[1:]) ** 2)) / (n * n)
+        power = (np.abs(spectrum[0]) ** 2 + 2.0 * np.sum(np.abs(spectrum[1:]) ** 2)) / (n * n)
         total += power
     return -0.691 + 10.0 * np.log10(max(total, 1e-20))
 
