@@ -29,16 +29,22 @@ void KRWaitKey()
     tcsetattr(STDIN_FILENO, TCSANOW, &saved);
 }
 
+// The message line that ends the reports of KR_ASSERT_MESG and HALT.
+static void PrintMessage(const char* format, va_list args)
+{
+    std::printf("Mesg: ");
+    std::vprintf(format, args);
+    std::printf("\n");
+    std::fflush(stdout);
+}
+
 void KRAssertMesgFail(const char* test, int line, const char* func, const char* file, const char* format, ...)
 {
     std::printf("KR_ASSERT_MESG: %s\nLine: %d\nFunc: %s\nFile: %s\n", test, line, func, file);
-    std::printf("Mesg: ");
     va_list args;
     va_start(args, format);
-    std::vprintf(format, args);
+    PrintMessage(format, args);
     va_end(args);
-    std::printf("\n");
-    std::fflush(stdout);
     std::exit(1);
 }
 
@@ -52,13 +58,10 @@ void KRAssertParmFail(const char* test, int line, const char* func, const char* 
 void KRHalt(int line, const char* func, const char* file, const char* format, ...)
 {
     std::printf("HALT:\nLine: %d\nFunc: %s\nFile: %s\n", line, func, file);
-    std::printf("Mesg: ");
     va_list args;
     va_start(args, format);
-    std::vprintf(format, args);
+    PrintMessage(format, args);
     va_end(args);
-    std::printf("\n");
-    std::fflush(stdout);
     KRWaitKey();
     std::exit(1);
 }
