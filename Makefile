@@ -1,7 +1,7 @@
-# Quillon -- the front door. `make run` plays, `make test` checks everything.
+# Quillon -- the front door. `make run` plays, `make test` checks everything, `make check` is the quick inner loop.
 JOBS ?= 2
 
-.PHONY: all run build deps test assets bench clean
+.PHONY: all run build deps test check assets bench clean
 
 all: build
 
@@ -13,11 +13,15 @@ build: deps
 	@cmake --build build/release -j$(JOBS)
 
 run: build
-	@tools/run-game.sh build/release/quillon
+	@tools/run-game.sh "$(CURDIR)/build/release/quillon"
 
 test:
 	@tools/install-deps.sh test assets
 	@tools/run-tests.sh
+
+check:
+	@tools/install-deps.sh test
+	@tools/run-tests.sh --check
 
 assets:
 	@tools/install-deps.sh assets

@@ -10,9 +10,9 @@ set -euo pipefail
 RUN_PKGS="build-essential cmake pkg-config libsdl2-dev libsdl2-mixer-dev libglew-dev libstb-dev
   libfreetype-dev fonts-dejavu-core libgl1-mesa-dri"
 TEST_PKGS="libgtest-dev googletest xvfb xauth xdotool x11-utils imagemagick sox python3-xlib wmctrl openbox
-  clang libclang-rt-14-dev"
+  clang libclang-rt-14-dev ninja-build git"
 ASSET_PKGS="python3 python3-pil python3-numpy fonts-dejavu-core fonts-dejavu-extra fonts-urw-base35 fonts-noto-core
-  sox vorbis-tools"
+  xfonts-base sox vorbis-tools"
 
 groups=("$@")
 [ ${#groups[@]} -eq 0 ] && groups=(run)

@@ -3,6 +3,12 @@
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 binary="${1:-$root/build/release/quillon}"
+# The game starts inside assets/, so a path given relative to where this was called must become absolute first.
+case "$binary" in
+  /*) ;;
+  *) binary="$PWD/$binary" ;;
+esac
+[ -x "$binary" ] || { echo "Quillon is not built: no program at $binary (make run builds it)." >&2; exit 1; }
 
 if [ -z "${DISPLAY:-}" ]; then
   echo "Quillon needs a graphical desktop: no X display is set (DISPLAY is empty)." >&2

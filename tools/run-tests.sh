@@ -1,60 +1,134 @@
 #!/usr/bin/env bash
-# run-tests.sh -- builds the tests twice (plain, and with AddressSanitizer and UndefinedBehaviorSanitizer) and runs
-# every test of both builds, after the fuzz targets of the file readers have run for a short time each (clang's
-# libFuzzer under AddressSanitizer, tree build/fuzz; FUZZ_SECONDS, default 20). Without an X display, or always
-# unless QUILLON_TEST_ON_DISPLAY=1, a private virtual X server of 1920 by 1080 is started for the run. Sound goes
-# to SDL's silent driver.
+# run-tests.sh -- the test loop.
+#
+#   tools/run-tests.sh          (make test)  everything: the plain tree build/test and the sanitizer tree build/asan
+#                               (AddressSanitizer, UndefinedBehaviorSanitizer) each build every test, the fuzz targets
+#                               of the file readers run for FUZZ_SECONDS (default 20) each, and every test of both
+#                               trees runs under one CTest, which ends the run with its summary.
+#   tools/run-tests.sh --check  (make check) the inner loop: rebuilds the plain tree and runs its unit and display
+#                               tests.
+#
+# What runs side by side, so that two cores stay busy: the making of every asset again (for the byte-for-byte check)
+# starts first and runs beside the builds; the two fuzz targets run together beside the builds as well; the tests
+# run several at a time, each end-to-end test on a private virtual X server of its own. The other tests share one
+# private virtual X server of 1920 by 1080 (or the current display with QUILLON_TEST_ON_DISPLAY=1). Sound goes to
+# SDL's silent driver. JOBS sets the build's parallel jobs (2), TEST_JOBS the tests' (3).
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 cd "$root"
 jobs="${JOBS:-2}"
-
-if [ "${1:-}" != "--inner" ]; then
-  cmake -S . -B build/test -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUILLON_SANITIZE=OFF >/dev/null
-  cmake --build build/test -j"$jobs"
-  cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DQUILLON_SANITIZE=ON >/dev/null
-  cmake --build build/asan -j"$jobs"
-  cmake -S tests/fuzz -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ >/dev/null
-  cmake --build build/fuzz -j"$jobs"
-fi
+test_jobs="${TEST_JOBS:-3}"
+mode="full"
+[ "${1:-}" = "--check" ] && mode="check"
 
 export SDL_AUDIODRIVER=dummy
+# The fast unwinder on malloc: the slow one deadlocks in libgcc's unwinder when the software renderer registers the
+# frames of code it has just compiled (a malloc under the unwinder's own lock), so it serves the planted leak test
+# alone (tests/leak/).
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:allow_user_segv_handler=1"
 export LSAN_OPTIONS="suppressions=$root/tests/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 
-run_both() {
-  echo "== tests with AddressSanitizer and UndefinedBehaviorSanitizer =="
-  (cd build/asan && ctest -j"$jobs" --output-on-failure) || return 1
-  echo "== tests =="
-  (cd build/test && ctest -j"$jobs" --output-on-failure)
+# Runs its arguments on the test display: a private virtual X server, or the current display when asked.
+on_test_display() {
+  if [ -n "${DISPLAY:-}" ] && [ "${QUILLON_TEST_ON_DISPLAY:-0}" = "1" ]; then
+    "$@"
+  else
+    tests/e2e/lib/with-xvfb.sh 1920x1080 "$@"
+  fi
 }
+
+# Ninja when it is there (quicker to find what a one-file change needs); a tree made by another generator is
+# configured anew.
+generator=()
+command -v ninja >/dev/null 2>&1 && generator=(-G Ninja)
+configure() {
+  local tree="$1"
+  shift
+  local want="${generator[1]:-Unix Makefiles}"
+  if [ -f "$tree/CMakeCache.txt" ] && ! grep -q "^CMAKE_GENERATOR:INTERNAL=$want\$" "$tree/CMakeCache.txt"; then
+    rm -rf "$tree/CMakeCache.txt" "$tree/CMakeFiles"
+  fi
+  cmake "${generator[@]}" -B "$tree" "$@" >/dev/null
+}
+
+step() {
+  echo "== $* ($(($(date +%s) - started)) s) =="
+}
+started=$(date +%s)
+
+if [ "$mode" = "check" ]; then
+  step "building the plain tree"
+  configure build/test -S . -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUILLON_SANITIZE=OFF -DQUILLON_WERROR=ON
+  cmake --build build/test -j"$jobs"
+  step "unit and display tests"
+  cd build/test
+  on_test_display ctest -j"$test_jobs" -L '^(unit|display)$' --output-on-failure
+  exit $?
+fi
+
+background=()
+cleanup() {
+  local pid
+  for pid in "${background[@]}"; do kill "$pid" 2>/dev/null || true; done
+}
+trap cleanup EXIT
+
+# The byte-for-byte making of every asset: first, beside everything else. The CTest test waits for its result.
+regen="$root/build/asset-regen"
+rm -rf "$regen"
+mkdir -p "$regen"
+export QUILLON_ASSET_REGEN_DIR="$regen"
+step "making every picture and sound again, beside the builds"
+tools/check-assets-regenerate.sh --into "$regen" >/dev/null 2>&1 &
+background+=($!)
+
+step "building the fuzz targets"
+configure build/fuzz -S tests/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++
+cmake --build build/fuzz -j"$jobs"
 
 # Each target starts from its seed corpus; what it discovers goes to build/fuzz/new, never into the sources.
 # Any finding ends the target with a non-zero status and fails the run.
-run_fuzz() {
-  local seconds="${FUZZ_SECONDS:-20}"
-  local target
-  rm -rf build/fuzz/tmp build/fuzz/new build/fuzz/artifacts
-  mkdir -p build/fuzz/tmp build/fuzz/artifacts
-  for target in level_file progress_file; do
-    echo "== fuzzing the ${target/_/ } reader for ${seconds} s =="
-    mkdir -p "build/fuzz/new/$target"
-    TMPDIR="$root/build/fuzz/tmp" ASAN_OPTIONS="detect_leaks=1" "build/fuzz/fuzz_$target" \
-      -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/artifacts/$target-" \
-      "build/fuzz/new/$target" "tests/fuzz/corpus/$target" >"build/fuzz/$target.log" 2>&1 || {
-      tail -n 60 "build/fuzz/$target.log"
-      echo "fuzzing the $target reader found a problem; the input is in build/fuzz/artifacts" >&2
-      return 1
-    }
-    grep -E '^(Done|stat::number_of_executed_units)' "build/fuzz/$target.log" || true
-  done
-}
+seconds="${FUZZ_SECONDS:-20}"
+fuzz_targets=(level_file progress_file)
+rm -rf build/fuzz/tmp build/fuzz/new build/fuzz/artifacts
+mkdir -p build/fuzz/tmp build/fuzz/artifacts
+fuzz_pids=()
+step "fuzzing the level file and progress file readers for ${seconds} s each, beside the builds"
+for target in "${fuzz_targets[@]}"; do
+  mkdir -p "build/fuzz/new/$target"
+  TMPDIR="$root/build/fuzz/tmp" ASAN_OPTIONS="detect_leaks=1" "build/fuzz/fuzz_$target" \
+    -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/artifacts/$target-" \
+    "build/fuzz/new/$target" "tests/fuzz/corpus/$target" >"build/fuzz/$target.log" 2>&1 &
+  fuzz_pids+=($!)
+  background+=($!)
+done
 
-if [ "${1:-}" = "--inner" ] || { [ -n "${DISPLAY:-}" ] && [ "${QUILLON_TEST_ON_DISPLAY:-0}" = "1" ]; }; then
-  # The fuzzers first, so that the run ends with CTest's summary.
-  run_fuzz
-  run_both
-else
-  exec xvfb-run -a -s "-screen 0 1920x1080x24 -nolisten tcp" "$0" --inner
-fi
+step "building the plain tree"
+configure build/test -S . -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUILLON_SANITIZE=OFF -DQUILLON_WERROR=ON
+cmake --build build/test -j"$jobs"
+step "building the sanitizer tree"
+configure build/asan -S . -DCMAKE_BUILD_TYPE=Debug -DQUILLON_SANITIZE=ON -DQUILLON_WERROR=ON
+cmake --build build/asan -j"$jobs"
+
+fuzz_failed=0
+for i in "${!fuzz_targets[@]}"; do
+  target="${fuzz_targets[$i]}"
+  if wait "${fuzz_pids[$i]}"; then
+    echo "fuzzing the ${target/_/ } reader: $(grep -E '^stat::number_of_executed_units' "build/fuzz/$target.log" || echo 'no stats')"
+  else
+    tail -n 60 "build/fuzz/$target.log"
+    echo "fuzzing the $target reader found a problem; the input is in build/fuzz/artifacts" >&2
+    fuzz_failed=1
+  fi
+done
+[ "$fuzz_failed" -eq 0 ] || exit 1
+
+# One CTest over both trees: the sanitizer tree's tests carry the prefix "asan.".
+cat >build/CTestTestfile.cmake <<'CTEST'
+# Made by tools/run-tests.sh: both test trees under one CTest run.
+subdirs("test")
+subdirs("asan")
+CTEST
+step "every test of both trees"
+on_test_display ctest --test-dir build -j"$test_jobs" --output-on-failure

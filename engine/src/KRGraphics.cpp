@@ -40,13 +40,26 @@ int32_t KRGfxInit(int32_t width, int32_t height)
     std::printf("Graphics: OpenGL\n");
     std::fflush(stdout);
 
+    // A start that cannot go on says why in one line, in the library's own words, and gives 0.
     if (!gKRPlatform->CreateGLContext())
+    {
+        std::fprintf(stderr, "Kestrel Runtime: cannot create the OpenGL context: %s\n", gKRPlatform->GetLastError());
         return 0;
-
-    if (glewInit() != GLEW_OK)
-        HALT("fail to initialize GLEW!!");
+    }
+    GLenum glewResult = glewInit();
+    if (glewResult != GLEW_OK)
+    {
+        std::fprintf(stderr, "Kestrel Runtime: GLEW cannot load OpenGL: %s\n",
+                     (const char*)glewGetErrorString(glewResult));
+        return 0;
+    }
     if (!GLEW_VERSION_2_0)
-        HALT("OpenGL 2.0 is not supported!!");
+    {
+        const GLubyte* version = glGetString(GL_VERSION);
+        std::fprintf(stderr, "Kestrel Runtime: OpenGL 2.0 is not supported: the context offers OpenGL %s\n",
+                     version ? (const char*)version : "of unknown version");
+        return 0;
+    }
 
     ComputeWindowLimits();
 

@@ -29,11 +29,14 @@ struct KRPlatform
     const char* name;
 
     // Window. Creates and shows the one window at (x, y) with the given client size; no resizing, no maximise.
+    // 0 on failure, with the reason in GetLastError.
     int  (*CreateWindow)(const char* title, int x, int y, int clientWidth, int clientHeight);
     void (*SetWindowTitle)(const char* title);
+    // The desktop's size; usable before the window exists. 0 by 0 when no screen can be reached.
     void (*GetScreenSize)(int* pWidth, int* pHeight);
-    // Borderless, topmost, covering the screen (on) or bordered again at the given client size, centred (off).
-    void (*SetFullScreen)(int on, int screenWidth, int screenHeight, int clientWidth, int clientHeight);
+    // Borderless, topmost, covering the screen (on), or bordered again at the given client size with its client
+    // area's corner at (x, y) (off).
+    void (*SetFullScreen)(int on, int screenWidth, int screenHeight, int x, int y, int clientWidth, int clientHeight);
     void (*GetClientSize)(int* pWidth, int* pHeight);
     void* (*GetWindowHandle)();
     // Runs pending window events without blocking, handing each message to proc.
@@ -41,7 +44,7 @@ struct KRPlatform
     void (*DestroyWindow)();
 
     // OpenGL. A 2.0-capable compatibility context on the window, double buffered, 32-bit colour, 24-bit depth,
-    // 8-bit stencil; made current. 0 on failure.
+    // 8-bit stencil; made current. 0 on failure, with the reason in GetLastError.
     int  (*CreateGLContext)();
     void (*DeleteGLContext)();
     void (*Present)();
@@ -56,6 +59,9 @@ struct KRPlatform
     uint64_t (*GetCounter)();
     uint64_t (*GetFrequency)();
     void (*Wait)(double seconds);
+
+    // The platform library's own words for the last failure (for SDL, SDL_GetError()).
+    const char* (*GetLastError)();
 };
 
 extern const KRPlatform* gKRPlatform;   // the back-end in use; the SDL one unless a test chose another

@@ -11,31 +11,34 @@
 #include <GL/glx.h>
 #include <SDL.h>
 #include <cstring>
-#include <string>
 
 static SDL_Window* sWindow = nullptr;
 static SDL_GLContext sContext = nullptr;
 
-// What the window was made with, to make it again (see SDLCreateGLContext).
-static std::string sCreateTitle;
-static int sCreateX, sCreateY, sCreateWidth, sCreateHeight;
+// The video subsystem on the X server that DISPLAY names. The OpenGL entry points come through GLX, so the window
+// lives on an X server (a Wayland desktop offers one too); SDL_VIDEODRIVER in the environment still decides when
+// it is set. One try: a server that refuses is reported, not tried again.
+static int SDLStartVideo()
+{
+    if (SDL_WasInit(SDL_INIT_VIDEO))
+        return 1;
+    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
+    if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0)
+        return 1;
+    // SDL's reason, with the display it was asked for, which its words leave out.
+    char reason[512];
+    SDL_strlcpy(reason, SDL_GetError(), sizeof reason);
+    const char* display = SDL_getenv("DISPLAY");
+    if (display && *display)
+        SDL_SetError("%s (DISPLAY is %s)", reason, display);
+    else
+        SDL_SetError("%s (DISPLAY is not set)", reason);
+    return 0;
+}
 
 static int SDLCreateWindow(const char* title, int x, int y, int clientWidth, int clientHeight)
 {
-    sCreateTitle = title;
-    sCreateX = x;
-    sCreateY = y;
-    sCreateWidth = clientWidth;
-    sCreateHeight = clientHeight;
-
-    // The OpenGL entry points come through GLX, so the window lives on an X server (a Wayland desktop offers
-    // one too); SDL_VIDEODRIVER in the environment still decides when it is set.
-    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
-    // A busy X server can refuse a new connection now and then; a few tries a moment apart get through.
-    for (int attempt = 0; attempt < 20 && !SDL_WasInit(SDL_INIT_VIDEO); ++attempt)
-        if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
-            SDL_Delay(25);
-    if (!SDL_WasInit(SDL_INIT_VIDEO))
+    if (!SDLStartVideo())
         return 0;
     // One window per process; a second start-up (tests run several in one process) replaces the first.
     if (sWindow)
@@ -65,7 +68,14 @@ static void SDLSetWindowTitle(const char* title)
 
 static void SDLGetScreenSize(int* pWidth, int* pHeight)
 {
+    // The window is placed by the screen's size, so the screen is reached before the window exists.
     SDL_DisplayMode mode;
+    if (!SDLStartVideo())
+    {
+        *pWidth = 0;
+        *pHeight = 0;
+        return;
+    }
     int display = sWindow ? SDL_GetWindowDisplayIndex(sWindow) : 0;
     if (display < 0 || SDL_GetDesktopDisplayMode(display, &mode) != 0)
     {
@@ -77,7 +87,8 @@ static void SDLGetScreenSize(int* pWidth, int* pHeight)
     *pHeight = mode.h;
 }
 
-static void SDLSetFullScreen(int on, int screenWidth, int screenHeight, int clientWidth, int clientHeight)
+static void SDLSetFullScreen(int on, int screenWidth, int screenHeight, int x, int y, int clientWidth,
+                             int clientHeight)
 {
     if (!sWindow)
         return;
@@ -106,7 +117,7 @@ static void SDLSetFullScreen(int on, int screenWidth, int screenHeight, int clie
         // The way back keeps the topmost attribute, as the full-screen switch always has.
         SDL_SetWindowBordered(sWindow, SDL_TRUE);
         SDL_SetWindowSize(sWindow, clientWidth, clientHeight);
-        SDL_SetWindowPosition(sWindow, screenWidth / 2 - clientWidth / 2, screenHeight / 2 - clientHeight / 2);
+        SDL_SetWindowPosition(sWindow, x, y);
     }
 }
 
@@ -157,28 +168,19 @@ static void SDLDestroyWindow()
 
 static int SDLCreateGLContext()
 {
-    // The OpenGL entry points are loaded for GLX. When the X server is slow to answer, SDL may fall back to an
-    // EGL context for the whole video subsystem; then the window is made again from a fresh start of it.
-    for (int attempt = 0; attempt < 5; ++attempt)
-    {
-        if (!sWindow)
-            return 0;
-        sContext = SDL_GL_CreateContext(sWindow);
-        if (!sContext)
-            return 0;
-        SDL_GL_MakeCurrent(sWindow, sContext);
-        if (glXGetCurrentContext() != nullptr)
-            break;
-        SDL_GL_DeleteContext(sContext);
-        sContext = nullptr;
-        SDL_DestroyWindow(sWindow);
-        sWindow = nullptr;
-        SDL_QuitSubSystem(SDL_INIT_VIDEO);
-        std::string title = sCreateTitle;
-        SDLCreateWindow(title.c_str(), sCreateX, sCreateY, sCreateWidth, sCreateHeight);
-    }
+    if (!sWindow)
+        return 0;
+    sContext = SDL_GL_CreateContext(sWindow);
     if (!sContext)
         return 0;
+    if (SDL_GL_MakeCurrent(sWindow, sContext) != 0)
+        return 0;
+    // The OpenGL entry points are loaded for GLX: a context of another kind (EGL) cannot be drawn with.
+    if (glXGetCurrentContext() == nullptr)
+    {
+        SDL_SetError("the OpenGL context is not a GLX context, and the game loads OpenGL through GLX");
+        return 0;
+    }
     // The frame rate controller paces the frames; the swap must not wait for the display as well.
     SDL_GL_SetSwapInterval(0);
     return 1;
@@ -259,6 +261,11 @@ static void SDLWait(double seconds)
         SDL_Delay((Uint32)((seconds - 0.002) * 1000.0));
 }
 
+static const char* SDLGetLastError()
+{
+    return SDL_GetError();
+}
+
 const KRPlatform gKRPlatformSDL = {
     "sdl",
     SDLCreateWindow,
@@ -278,5 +285,6 @@ const KRPlatform gKRPlatformSDL = {
     SDLGetCounter,
     SDLGetFrequency,
     SDLWait,
+    SDLGetLastError,
 };
 

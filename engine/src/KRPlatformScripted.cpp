@@ -330,4 +330,5 @@ const KRPlatform gKRPlatformScripted = {
     ScriptedGetCounter,
     ScriptedGetFrequency,
     ScriptedWait,
+    gKRPlatformSDL.GetLastError,
 };

@@ -24,6 +24,21 @@ static const float kVersion = 3.03f;
 
 static KRWindowProc sWindowProc = nullptr;
 
+// Where the window's client area goes when it is not full screen: centred on the screen by the logical size.
+static void CentredPosition(int screenWidth, int screenHeight, int width, int height, int* pX, int* pY)
+{
+    *pX = screenWidth / 2 - width / 2;
+    *pY = screenHeight / 2 - height / 2;
+}
+
+// A start that cannot go on: one line with the platform library's own reason, on standard error.
+static int32_t StartFailed(const char* what)
+{
+    std::fprintf(stderr, "Kestrel Runtime: %s: %s\n", what, gKRPlatform->GetLastError());
+    std::fflush(stderr);
+    return 0;
+}
+
 // The engine's window procedure: the window's end and its activation are all it records.
 static long KRSysWindowProc(unsigned int message, long param)
 {
@@ -50,20 +65,20 @@ int32_t KRSysInit(void* instance, int32_t showCommand, int32_t width, int32_t he
 
     int screenWidth = 0, screenHeight = 0;
     gKRPlatform->GetScreenSize(&screenWidth, &screenHeight);
+    int x = 0, y = 0;
+    CentredPosition(screenWidth, screenHeight, width, height, &x, &y);
 
     // The client area comes out one pixel smaller than asked in each direction, as the window has always been
     // sized; the logical size stays width by height for all of the game.
-    if (!gKRPlatform->CreateWindow(kDefaultTitle, screenWidth / 2 - width / 2, screenHeight / 2 - height / 2,
-                                   width - 1, height - 1))
-        return 0;
+    if (!gKRPlatform->CreateWindow(kDefaultTitle, x, y, width - 1, height - 1))
+        return StartFailed("cannot open the window");
     gKRWindowHandle = gKRPlatform->GetWindowHandle();
     sWindowProc(KR_WM_CREATE, 0);
     gKRWindowExists = 1;
 
+    // KRGfxInit reports its own failure, in the words of the OpenGL context or of GLEW.
     if (!KRGfxInit(width, height))
         return 0;
-    // The back-end may have had to make the window again to get its OpenGL context.
-    gKRWindowHandle = gKRPlatform->GetWindowHandle();
     if (!KRInputInit())
         return 0;
     KRFrameRateControllerInit(frameRateMax);
@@ -119,7 +134,10 @@ void KRToogleFullScreen(bool on)
         gKRWinScaleX = 1.0f;
         gKRWinScaleY = 1.0f;
     }
-    gKRPlatform->SetFullScreen(on ? 1 : 0, screenWidth, screenHeight, KRGetWindowWidth() - 1,
+    // The way back goes to the place of start-up: centred by the logical size, the client area one pixel smaller.
+    int x = 0, y = 0;
+    CentredPosition(screenWidth, screenHeight, KRGetWindowWidth(), KRGetWindowHeight(), &x, &y);
+    gKRPlatform->SetFullScreen(on ? 1 : 0, screenWidth, screenHeight, x, y, KRGetWindowWidth() - 1,
                                KRGetWindowHeight() - 1);
 }
 

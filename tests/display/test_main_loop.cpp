@@ -226,3 +226,47 @@ TEST_F(MainLoop, WritingAnUnknownStateEndsTheVisitAndStopsAtTheNextEntry)
     EXPECT_EQ(child.out.substr(child.out.size() - tail.size()), tail)
         << "the visit ends normally and the message comes at the next entry";
 }
+
+TEST_F(MainLoop, SteppingOneFrameAtATimeKeepsTheOrderOfTheWholeLoop)
+{
+    int restarts = 0;
+    sPlan = [&restarts](int state, int frame) -> int {
+        if (state == GS_MENU && frame == 1 && restarts == 0)
+        {
+            ++restarts;
+            return GS_RESTART;
+        }
+        if (state == GS_MENU && frame == 1)
+            return GS_LS;
+        return state == GS_LS && frame == 0 ? GS_QUIT : -1;
+    };
+    StartGameScripted(GS_MENU, "");
+    std::vector<size_t> journalAfterStep;
+    while (GameLoopStep())
+        journalAfterStep.push_back(sJournal.size());
+    EXPECT_EQ(sJournal, Journal({"Load 8", "Init 8", "Update 8", "Draw 8", "Update 8", "Draw 8", "Free 8", "Init 8",
+                                 "Update 8", "Draw 8", "Update 8", "Draw 8", "Free 8", "Unload 8", "Load 9",
+                                 "Init 9", "Update 9", "Draw 9", "Free 9", "Unload 9"}));
+    // One step is one frame: five frames ran, and the journal grew by one Update and Draw each time.
+    ASSERT_EQ(journalAfterStep.size(), 5u);
+    EXPECT_EQ(journalAfterStep[0], 4u) << "the first step opens the visit and runs its first frame";
+    EXPECT_EQ(journalAfterStep[1], 7u) << "the frame that asks for a restart closes the visit with Free";
+    EXPECT_EQ(journalAfterStep[2], 10u) << "the next step reopens it with Init only";
+    EXPECT_EQ(gGameStateCurr, GS_QUIT);
+    EXPECT_FALSE(GameLoopStep()) << "a finished game takes no more steps";
+}
+
+TEST_F(MainLoop, BetweenStepsAStateCanBeReadAsItStands)
+{
+    sPlan = [](int, int frame) -> int { return frame == 3 ? GS_QUIT : -1; };
+    StartGameScripted(GS_MENU, "");
+    ASSERT_TRUE(GameLoopStep());
+    EXPECT_EQ(sFramesInVisit, 1);
+    ASSERT_TRUE(GameLoopStep());
+    EXPECT_EQ(sFramesInVisit, 2);
+    EXPECT_EQ(gGameStateCurr, GS_MENU);
+    while (GameLoopStep())
+    {
+    }
+    EXPECT_EQ(sFramesInVisit, 4);
+}

@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
-# The real game starts full screen, F1 gives the 800 by 600 window and back, and closing the window ends the run
-# cleanly after the banner.
+# The real game starts full screen, F1 gives the 800 by 600 window centred on the screen and back, and closing the
+# window ends the run cleanly after the banner. The close is sent to the window after the round trip, in its
+# windowed form: a close request sent to the borderless full-screen window after a return to it is sometimes never
+# seen by SDL (an open fault, see docs/testing.md), and this test must not pass or fail by chance on it.
 set -euo pipefail
 source "$(dirname "$0")/lib/common.sh"
+on_private_server 1920x1080 "$@"
 binary="$1"
 
 start_game "$binary"
@@ -11,12 +14,16 @@ wait_size "$screen"
 [ "$(window_origin)" = "0,0" ] || fail "full screen window is not at the screen's corner: $(window_origin)"
 screenshot window-fullscreen
 
-press_key F1
-wait_size "799x599"
+toggle_full_screen "799x599"
+[ "$(window_origin)" = "$(centred_origin)" ] || fail "the window is at $(window_origin), not centred at $(centred_origin)"
+[ "$(window_origin)" = "560,240" ] || fail "on 1920 by 1080 the window belongs at 560,240, not $(window_origin)"
 screenshot window-windowed
 
-press_key F1
-wait_size "$screen"
+toggle_full_screen "$screen"
+[ "$(window_origin)" = "0,0" ] || fail "back in full screen, the window is not at the corner: $(window_origin)"
+
+toggle_full_screen "799x599"
+[ "$(window_origin)" = "560,240" ] || fail "windowed again, the window is at $(window_origin), not 560,240"
 
 close_window
 wait_exit

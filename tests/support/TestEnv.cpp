@@ -1,12 +1,15 @@
 // TestEnv.cpp -- private folders, screenshots and file helpers for the tests.
 #include "TestEnv.h"
 
+#include "replayframe.h"
+
 #include <GL/glew.h>
 #include <cstdlib>
+#include <dirent.h>
 #include <fstream>
 #include <sstream>
-#include <stb_image_write.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 std::string TestOutputDir()
@@ -26,6 +29,21 @@ std::string MakeTempDir(const std::string& prefix)
     return made ? std::string(made) : std::string();
 }
 
+void LinkAssetsInto(const std::string& assets, const std::string& folder)
+{
+    DIR* dir = opendir(assets.c_str());
+    if (!dir)
+        return;
+    while (dirent* entry = readdir(dir))
+    {
+        std::string name = entry->d_name;
+        if (name == "." || name == "..")
+            continue;
+        symlink((assets + "/" + name).c_str(), (folder + "/" + name).c_str());
+    }
+    closedir(dir);
+}
+
 void PointHomeAt(const std::string& folder)
 {
     setenv("HOME", folder.c_str(), 1);
@@ -35,18 +53,8 @@ void PointHomeAt(const std::string& folder)
 
 bool SaveScreenshot(const std::string& path, int width, int height)
 {
-    std::vector<unsigned char> pixels((size_t)width * height * 4);
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glReadBuffer(GL_BACK);
-    glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    // OpenGL rows run bottom up, PNG rows top down.
-    std::vector<unsigned char> flipped(pixels.size());
-    for (int row = 0; row < height; ++row)
-        std::copy(pixels.begin() + (size_t)row * width * 4, pixels.begin() + (size_t)(row + 1) * width * 4,
-                  flipped.begin() + (size_t)(height - 1 - row) * width * 4);
-    for (size_t i = 3; i < flipped.size(); i += 4)
-        flipped[i] = 255;
-    return stbi_write_png(path.c_str(), width, height, 4, flipped.data(), width * 4) != 0;
+    // The replay tool's shots and the tests' screenshots are made the same way.
+    return ReplaySaveFramePng(path, width, height);
 }
 
 unsigned int ReadPixel(int x, int y)

@@ -9,6 +9,9 @@ std::string TestOutputDir();
 // A fresh empty folder under the test output folder.
 std::string MakeTempDir(const std::string& prefix);
 
+// Links every file of the assets folder into the folder, so that a game can run there on files a test writes.
+void LinkAssetsInto(const std::string& assets, const std::string& folder);
+
 // Points HOME at the folder and forgets any XDG documents setting, so that the save folder lies under it.
 void PointHomeAt(const std::string& folder);
 

@@ -21,19 +21,23 @@ std::set<std::string> ManifestNames()
     return names;
 }
 
-// Quoted names ending in .png, .ogg or .wav in every source file of the game.
-std::set<std::string> NamesInGameSources()
+// Quoted names ending in .png, .ogg or .wav in every source file of the game, in src/ and its folders.
+void CollectNames(const std::string& dir, std::set<std::string>* pNames)
 {
-    std::set<std::string> names;
-    const char* root = std::getenv("QUILLON_SOURCE_DIR");
-    std::string dir = std::string(root ? root : "..") + "/src";
     DIR* folder = opendir(dir.c_str());
     if (!folder)
-        return names;
+        return;
     static const std::regex quoted("\"([^\"\\\\]+\\.(png|ogg|wav))\"", std::regex::icase);
     while (dirent* entry = readdir(folder))
     {
         std::string file = entry->d_name;
+        if (file == "." || file == "..")
+            continue;
+        if (entry->d_type == DT_DIR)
+        {
+            CollectNames(dir + "/" + file, pNames);
+            continue;
+        }
         if (file.size() < 3 || (file.substr(file.size() - 4) != ".cpp" && file.substr(file.size() - 2) != ".h"))
             continue;
         std::ifstream in(dir + "/" + file);
@@ -41,9 +45,16 @@ std::set<std::string> NamesInGameSources()
         text << in.rdbuf();
         std::string source = text.str();
         for (std::sregex_iterator it(source.begin(), source.end(), quoted), end; it != end; ++it)
-            names.insert((*it)[1]);
+            pNames->insert((*it)[1]);
     }
     closedir(folder);
+}
+
+std::set<std::string> NamesInGameSources()
+{
+    std::set<std::string> names;
+    const char* root = std::getenv("QUILLON_SOURCE_DIR");
+    CollectNames(std::string(root ? root : "..") + "/src", &names);
     return names;
 }
 

@@ -17,7 +17,7 @@ void ExpectReport(const ChildResult& result, const char* check, const char* func
 {
     EXPECT_EQ(result.exitCode, 1);
     std::string pattern = std::string("KR_ASSERT_MESG: ") + check + "\nLine: [0-9]+\nFunc: " + function +
-                          "\nFile: .*src/" + file + "\nMesg: .*\n";
+                          "\nFile: .*src/sound/" + file + "\nMesg: .*\n";
     EXPECT_TRUE(std::regex_match(result.out, std::regex(pattern))) << result.out;
 }
 

@@ -1,6 +1,8 @@
 // The stop macros: their exact reports on standard output and exit status 1, and no key wait without a terminal.
 #include "KRDebug.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -54,11 +56,23 @@ TEST(StopMacros, AssertParmPrintsTheFailedTestAndExitsWithOne)
         ::testing::ExitedWithCode(1), "KR_ASSERT_PARM: type < 100u\nLine: [0-9]+\nFunc: FailParm\nFile: .*\n");
 }
 
-TEST(StopMacros, PassingTestsDoNothing)
+TEST(StopMacros, PassingTestsPrintNothingGoOnAndNeverBuildTheirMessage)
 {
-    KR_ASSERT_MESG(1 + 1 == 2, "arithmetic");
-    KR_ASSERT_PARM(true);
-    SUCCEED();
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    // In a child whose standard output is its standard error, so that the death test sees all it prints: after two
+    // passing tests the only words are the child's own, and it ends by itself with status 0.
+    EXPECT_EXIT(
+        {
+            ReportOnStderr();
+            int tests = 0;
+            int messagesBuilt = 0;
+            KR_ASSERT_MESG(++tests == 1, "built %d", ++messagesBuilt);
+            KR_ASSERT_PARM(++tests == 2);
+            std::printf("went on: tests %d, messages built %d\n", tests, messagesBuilt);
+            std::fflush(stdout);
+            std::exit(0);
+        },
+        ::testing::ExitedWithCode(0), "^went on: tests 2, messages built 0\n$");
 }
 
 TEST(StopMacros, HaltWithoutATerminalReportsAndExitsWithoutWaiting)

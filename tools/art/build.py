@@ -52,6 +52,10 @@ def png_bytes(img):
 
 
 def main(argv):
+    if argv[1:] == ["--rendered-elsewhere"]:
+        # The pictures drawn by other tools, one a line, for the regeneration check to leave out.
+        print("\n".join(registry.rendered_names()))
+        return
     only = set(argv[1:])
     os.makedirs(ASSETS, exist_ok=True)
     os.makedirs(os.path.dirname(SHEET), exist_ok=True)
@@ -62,14 +66,17 @@ def main(argv):
     made = []
     changed = 0
     cache = {}
-    for (name, maker, _blended, _drawn, _what) in registry.PICTURES:
+    for (name, maker, _blended, _drawn, _what, clear, _note) in registry.PICTURES:
         if only and name not in only:
             continue
-        if maker not in cache:
-            cache[maker] = C.finish(maker())
-        img = cache[maker]
+        if maker is None:
+            continue
+        key = (maker, clear)
+        if key not in cache:
+            cache[key] = C.finish(maker(), registry.clear_rgb(clear))
+        img = cache[key]
         changed += write_if_changed(os.path.join(ASSETS, name), png_bytes(img))
-        made.append((name, img))
+        made.append((name, img, clear))
     if not only:
         manifest = "\n".join(registry.manifest_lines()) + "\n"
         changed += write_if_changed(os.path.join(ASSETS, "MANIFEST.tsv"), manifest.encode("utf-8"))

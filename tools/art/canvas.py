@@ -25,44 +25,47 @@ def to_array(img):
 
 
 class SSLayer:
-    """A supersampled RGBA layer: draw in picture pixels (floats allowed), get back a clean downsample."""
+    """A supersampled RGBA layer: draw in picture pixels (floats allowed), get back a clean downsample.
+    With k > 1 the same drawing comes out k times larger, every coordinate and width scaled: a small
+    picture drawn again with the detail of a big one, not magnified."""
 
-    def __init__(self, w, h, ss=SS):
-        self.w, self.h, self.ss = w, h, ss
-        self.img = Image.new("RGBA", (w * ss, h * ss), (0, 0, 0, 0))
+    def __init__(self, w, h, ss=SS, k=1):
+        self.w, self.h, self.ss, self.k = w * k, h * k, ss, k
+        self.s = ss * k
+        self.img = Image.new("RGBA", (int(round(w * self.s)), int(round(h * self.s))), (0, 0, 0, 0))
         self.draw = ImageDraw.Draw(self.img)
 
     def _p(self, pts):
-        s = self.ss
+        s = self.s
         return [(x * s, y * s) for (x, y) in pts]
 
     def poly(self, pts, fill, outline=None, width=0):
         self.draw.polygon(self._p(pts), fill=fill, outline=outline,
-                          width=int(round(width * self.ss)) if outline else 0)
+                          width=int(round(width * self.s)) if outline else 0)
 
     def ellipse(self, box, fill, outline=None, width=0):
         x0, y0, x1, y1 = box
-        s = self.ss
+        s = self.s
         self.draw.ellipse((x0 * s, y0 * s, x1 * s - 1, y1 * s - 1), fill=fill, outline=outline,
                           width=int(round(width * s)))
 
     def rect(self, box, fill, radius=0, outline=None, width=0):
         x0, y0, x1, y1 = box
-        s = self.ss
+        s = self.s
         self.draw.rounded_rectangle((x0 * s, y0 * s, x1 * s - 1, y1 * s - 1), radius=radius * s, fill=fill,
                                     outline=outline, width=int(round(width * s)))
 
     def line(self, pts, fill, width=1.0):
-        self.draw.line(self._p(pts), fill=fill, width=max(1, int(round(width * self.ss))), joint="curve")
+        self.draw.line(self._p(pts), fill=fill, width=max(1, int(round(width * self.s))), joint="curve")
 
     def arc(self, box, start, end, fill, width=1.0):
         x0, y0, x1, y1 = box
-        s = self.ss
+        s = self.s
         self.draw.arc((x0 * s, y0 * s, x1 * s - 1, y1 * s - 1), start, end, fill=fill,
                       width=max(1, int(round(width * s))))
 
     def image(self):
-        return self.img.resize((self.w, self.h), Image.BOX)
+        return self.img.resize((int(round(self.w)), int(round(self.h))), Image.BOX)
 
 
 def over(base, top, xy=(0, 0)):
@@ -138,14 +141,24 @@ def tint_mask(mask, color):
     return out
 
 
-def finish(img, clear_rgb=(0, 0, 0)):
-    """Fully transparent pixels all get one colour, so nothing random hides in them and a picture
-    drawn without blending shows a plain ground there."""
+def finish(img, ground=None):
+    """Ready a picture for saving, for the way the game draws it.
+
+    ground None: the picture is only drawn blended, so its clear pixels never show; they all get black,
+    so nothing random hides in them and a rebuild is byte-identical.
+    ground (r, g, b): the picture is drawn with blending off on a ground of that colour. Its clear pixels
+    take the ground's colour and each soft edge pixel is mixed with the ground by its alpha, so the picture
+    looks there as it would blended; the alpha stays for the meshes that do blend it.
+    """
     arr = np.array(img.convert("RGBA"))
     clear = arr[..., 3] == 0
-    arr[clear, 0] = clear_rgb[0]
-    arr[clear, 1] = clear_rgb[1]
-    arr[clear, 2] = clear_rgb[2]
+    if ground is None:
+        arr[clear, :3] = 0
+        return Image.fromarray(arr, "RGBA")
+    a = arr[..., 3:4].astype(np.float64) / 255.0
+    g = np.array(ground, dtype=np.float64)[None, None, :]
+    rgb = arr[..., :3].astype(np.float64) * a + g * (1.0 - a)
+    arr[..., :3] = np.clip(np.rint(rgb), 0, 255).astype(np.uint8)
     return Image.fromarray(arr, "RGBA")
 
 

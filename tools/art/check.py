@@ -3,8 +3,10 @@
 
 Run from the repository root:  /usr/bin/python3 tools/art/check.py
 Checks: each manifest line is well formed; each listed image exists, decodes, has an alpha channel when
-drawn blended; the letter sheet divides into 26 x 3 equal cells; every PNG in assets/ is listed; the
-whole of assets/ stays under 40 MB. Sound lines are checked for form only: the sound tool makes and checks
+drawn blended; a picture drawn unblended carries the clear ground its line names (opaque edge to edge for
+"none", every clear pixel of the named colour for "#rrggbb"); each picture's aspect is within 5% of the
+aspect of every mesh it is shown on, unless its line notes why not; the letter sheet divides into 26 x 3
+equal cells; every PNG in assets/ is listed; the whole of assets/ stays under 40 MB. Sound lines are checked for form only: the sound tool makes and checks
 those files. An optional argument names another assets folder (the checker's own tests use it).
 Prints one line per problem and a closing "N passed, N failed" line; exits 1 on a failure.
 """
@@ -20,6 +22,9 @@ if len(sys.argv) > 1:
     ASSETS = os.path.abspath(sys.argv[1])
 LIMIT = 40 * 1024 * 1024
 FONT_SHEET = "lucida_console_f_tex.png"
+FONT_GRID = (26, 3)
+ASPECT_TOLERANCE = 0.05
+FIELDS = 7
 
 
 def read_manifest(path):
@@ -33,11 +38,54 @@ def read_manifest(path):
     return rows
 
 
+def parse_sizes(drawn):
+    """The mesh sizes of a drawn field, "WxH[,WxH...]", as a list of (w, h); ValueError if malformed."""
+    sizes = []
+    for part in drawn.split(","):
+        w, h = (float(v) for v in part.split("x"))
+        if w <= 0 or h <= 0:
+            raise ValueError(part)
+        sizes.append((w, h))
+    return sizes
+
+
+def aspect_problems(name, size, meshes, note):
+    """A picture looks right only at its own aspect: each mesh it is shown on must match it within 5%."""
+    w, h = size
+    if name == FONT_SHEET:  # drawn one cell at a time
+        w, h = w / FONT_GRID[0], h / FONT_GRID[1]
+    problems = []
+    for (mw, mh) in meshes:
+        off = (w / h) / (mw / mh) - 1.0
+        if abs(off) > ASPECT_TOLERANCE and note == "-":
+            problems.append("is %dx%d (aspect %.3f) but shown on a %gx%g mesh (aspect %.3f): %+.0f%% stretched, "
+                            "and no note says why" % (size[0], size[1], w / h, mw, mh, mw / mh, off * 100))
+    return problems
+
+
+def clear_ground_problems(img, clear):
+    """A picture drawn with blending off shows its clear pixels' colour: it must be the one declared."""
+    import numpy as np
+    arr = np.asarray(img.convert("RGBA"))
+    clear_px = arr[..., 3] == 0
+    count = int(clear_px.sum())
+    if clear == "none":
+        return [] if count == 0 else ["is drawn unblended and should be opaque, but has %d clear pixels" % count]
+    want = np.array([int(clear[i:i + 2], 16) for i in (1, 3, 5)])
+    wrong = clear_px & np.any(arr[..., :3] != want[None, None, :], axis=2)
+    if wrong.any():
+        ys, xs = np.nonzero(wrong)
+        got = tuple(int(v) for v in arr[ys[0], xs[0], :3])
+        return ["is drawn unblended on %s, but %d of its %d clear pixels are another colour (first at %d,%d: "
+                "#%02x%02x%02x)" % (clear, int(wrong.sum()), count, xs[0], ys[0], got[0], got[1], got[2])]
+    return []
+
+
 def check_row(fields):
     """Problems of one manifest row, as a list of texts (empty when fine)."""
-    if len(fields) != 5:
-        return ["has %d fields, wants 5" % len(fields)]
-    name, kind, blended, drawn, what = fields
+    if len(fields) != FIELDS:
+        return ["has %d fields, wants %d" % (len(fields), FIELDS)]
+    name, kind, blended, drawn, what, clear, note = fields
     problems = []
     if kind not in ("image", "sound"):
         problems.append("kind '%s' is neither image nor sound" % kind)
@@ -45,16 +93,21 @@ def check_row(fields):
         problems.append("blended '%s' is neither yes nor no" % blended)
     if not what.strip():
         problems.append("says nothing of what it is")
+    if not note.strip():
+        problems.append("aspect note is empty, wants - or a reason")
     if kind == "sound":
-        if drawn != "-":
-            problems.append("a sound has drawn size '%s', wants -" % drawn)
+        if drawn != "-" or clear != "-":
+            problems.append("a sound has drawn size '%s' and clear ground '%s', wants - and -" % (drawn, clear))
         return problems
+    if blended == "yes" and clear != "-":
+        problems.append("is only drawn blended, so its clear ground is '-', not '%s'" % clear)
+    if blended == "no" and not (clear == "none" or (len(clear) == 7 and clear[0] == "#")):
+        problems.append("is drawn unblended, so its line names its clear ground (none or #rrggbb), not '%s'" % clear)
+    meshes = []
     try:
-        w, h = (float(v) for v in drawn.split("x"))
-        if w <= 0 or h <= 0:
-            raise ValueError
+        meshes = parse_sizes(drawn)
     except ValueError:
-        problems.append("drawn size '%s' is not WxH" % drawn)
+        problems.append("drawn size '%s' is not WxH[,WxH...]" % drawn)
     path = os.path.join(ASSETS, name)
     if not os.path.isfile(path):
         return problems + ["is missing"]
@@ -63,8 +116,11 @@ def check_row(fields):
             img.load()
             mode, size = img.mode, img.size
             has_alpha = mode in ("RGBA", "LA") or (mode == "P" and "transparency" in img.info)
+            if blended == "no" and (clear == "none" or clear.startswith("#")):
+                problems += clear_ground_problems(img, clear)
     except Exception as e:  # any decoder failure is a finding, not a crash
         return problems + ["does not decode: %s" % e]
+    problems += aspect_problems(name, size, meshes, note)
     if blended == "yes" and not has_alpha:
         problems.append("is drawn blended but has no alpha channel (mode %s)" % mode)
     if name == FONT_SHEET and (size[0] % 26 or size[1] % 3):

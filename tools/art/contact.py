@@ -1,7 +1,8 @@
 """contact.py -- the contact sheet: every picture of assets/ as a thumbnail with its file name.
 
 Owns: "docs/art/contact-sheet.png". Thumbnails sit on a checkerboard so transparency shows; small
-      pictures are enlarged by whole pixels, big ones shrunk smoothly.
+      pictures are enlarged by whole pixels, big ones shrunk smoothly. A picture that the game draws with
+      blending off is shown so too, alpha ignored, so its clear ground shows as it does in the game.
 """
 from PIL import Image, ImageDraw
 
@@ -34,21 +35,23 @@ def _thumb(img):
 
 
 def contact_sheet(named_pictures):
-    """named_pictures: list of (file name, PIL picture), drawn in that order."""
+    """named_pictures: list of (file name, PIL picture, clear ground of the manifest), drawn in that order."""
     rows = (len(named_pictures) + COLS - 1) // COLS
     sheet = Image.new("RGBA", (COLS * CELL_W, rows * CELL_H + 40), (24, 20, 18, 255))
     T.plain_text(sheet, "Quillon pictures: %d files in assets/" % len(named_pictures), (COLS * CELL_W / 2, 20),
                  18, P.GOLD_LIGHT, P.FONT_BODY_BOLD)
-    for i, (name, img) in enumerate(named_pictures):
+    for i, (name, img, clear) in enumerate(named_pictures):
         x0 = (i % COLS) * CELL_W
         y0 = 40 + (i // COLS) * CELL_H
         th = _thumb(img.convert("RGBA"))
+        if clear != "-":
+            th.putalpha(255)
         bg = _checker(th.size[0], th.size[1])
         bg.alpha_composite(th)
         sheet.alpha_composite(bg, dest=(x0 + (CELL_W - th.size[0]) // 2, y0 + 4 + (THUMB_H - th.size[1]) // 2))
         label = name if len(name) <= 30 else name[:28] + ".."
         T.plain_text(sheet, label, (x0 + CELL_W / 2, y0 + THUMB_H + 14), 12, P.CREAM,
                      "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")
-        T.plain_text(sheet, "%dx%d" % img.size, (x0 + CELL_W / 2, y0 + THUMB_H + 28), 10, P.PAPYRUS_DARK,
+        T.plain_text(sheet, "%dx%d%s" % (img.size + (", unblended" if clear != "-" else "",)), (x0 + CELL_W / 2, y0 + THUMB_H + 28), 10, P.PAPYRUS_DARK,
                      "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")
     return sheet

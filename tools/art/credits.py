@@ -57,7 +57,7 @@ def credits_more():
 
 @picture("credits4.png", "801.6x180", "credits: the fonts and their licences, and thanks for playing")
 def credits_fonts():
-    return _slab(134, "FONTS", [("DejaVu fonts", "Bitstream Vera licence, public domain"),
+    return _slab(134, "FONTS", [("DejaVu fonts; X11 misc-fixed 6x10", "Bitstream Vera licence; public domain"),
                                 ("URW base 35 fonts (P052)", "AGPL 3 with font exception"),
                                 ("Noto Sans Egyptian Hieroglyphs", "SIL Open Font Licence 1.1")])
 

@@ -142,8 +142,8 @@ def _smoothstep(e0, e1, x):
     return t * t * (3 - 2 * t)
 
 
-@picture("VISIBILITY.png", "2800x2100",
-         "darkness mask (also drawn 2550x1950): black except a soft warm light cone from the centre toward +x and a glow about the centre")
+@picture("VISIBILITY.png", "2800x2100,2550x1950",
+         "darkness mask: black except a soft warm light cone from the centre toward +x and a glow about the centre")
 def visibility():
     # 1400 x 1050 pixels: two units a pixel at the larger of the two drawn sizes.
     w, h = 1400, 1050

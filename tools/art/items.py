@@ -27,10 +27,11 @@ def radial(w, h, cx, cy, rx, ry, color, peak=255, power=1.5):
 
 
 @picture("PORTAL_EXIT.png", "55x55", "exit portal: a small pylon gate full of swirling turquoise light under a winged sun")
-def exit_portal():
+def exit_portal(k=1):
+    """The gate at 55x55, or k times larger, drawn again with that detail (the end screen's)."""
     w = h = 55
-    img = radial(w, h, 27.5, 30, 27, 27, P.TURQUOISE, 120, 2.0)
-    L = C.SSLayer(w, h)
+    img = radial(w * k, h * k, 27.5 * k, 30 * k, 27 * k, 27 * k, P.TURQUOISE, 120, 2.0)
+    L = C.SSLayer(w, h, k=k)
     # Pylon: sloped sandstone towers with gold edges.
     L.poly([(8, 53), (13, 12), (42, 12), (47, 53)], _a(P.SANDSTONE))
     L.poly([(8, 53), (13, 12), (16, 12), (12, 53)], _a(P.SANDSTONE_HIGH))
@@ -48,7 +49,7 @@ def exit_portal():
     L.ellipse((23.5, 5, 31.5, 13), _a(P.CARNELIAN))
     L.ellipse((25, 6.2, 29, 9.5), _a(P.CARNELIAN_LIGHT))
     L.rect((6, 52, 49, 55), _a(P.GOLD_DARK))
-    img.alpha_composite(C.outline(L.image(), 1, P.VOID + (220,)))
+    img.alpha_composite(C.outline(L.image(), k, P.VOID + (220,)))
     return img
 
 
@@ -111,8 +112,9 @@ def battery_attribute():
     return img
 
 
-def _heart(w, h):
-    """A carnelian heart filling the picture, thick gold rim, one highlight: it survives being shrunk."""
+def _heart(w, h, top=0.0):
+    """A carnelian heart across the width of the picture from `top` down, thick gold rim, one highlight:
+    it survives being shrunk. Above it, when there is room, the gold loop of an amulet."""
     L = C.SSLayer(w, h)
     pts = []
     for i in range(101):
@@ -122,20 +124,31 @@ def _heart(w, h):
         pts.append((x, y))
     xs = [p[0] for p in pts]
     ys = [p[1] for p in pts]
+    hh = h - top
     sx = (w - 2.0) / (max(xs) - min(xs))
-    sy = (h - 2.0) / (max(ys) - min(ys))
-    outer = [(1 + (x - min(xs)) * sx, 1 + (y - min(ys)) * sy) for (x, y) in pts]
-    cxh, cyh = w / 2, h / 2
-    inner = [(cxh + (x - cxh) * 0.8, cyh + (y - cyh) * 0.8 - h * 0.02) for (x, y) in outer]
+    sy = (hh - 2.0) / (max(ys) - min(ys))
+    outer = [(1 + (x - min(xs)) * sx, top + 1 + (y - min(ys)) * sy) for (x, y) in pts]
+    cxh, cyh = w / 2, top + hh / 2
+    inner = [(cxh + (x - cxh) * 0.8, cyh + (y - cyh) * 0.8 - hh * 0.02) for (x, y) in outer]
+    if top >= 4:
+        # The loop stands on the cleft of the heart, as on an amulet worn on a cord.
+        r = min(top * 0.62, w * 0.16)
+        cy = top - r * 0.55 + 1.5
+        L.ellipse((w / 2 - r, cy - r, w / 2 + r, cy + r), _a(P.GOLD_DARK))
+        L.ellipse((w / 2 - r * 0.45, cy - r * 0.45, w / 2 + r * 0.45, cy + r * 0.45), (0, 0, 0, 0))
+        L.rect((w / 2 - r * 0.7, top + 0.5, w / 2 + r * 0.7, top + 4.5), _a(P.GOLD), radius=1)
     L.poly(outer, _a(P.GOLD))
     L.poly(inner, _a(P.CARNELIAN))
-    L.ellipse((w * 0.24, h * 0.2, w * 0.44, h * 0.38), _a(P.CARNELIAN_LIGHT))
+    L.ellipse((w * 0.24, top + hh * 0.2, w * 0.44, top + hh * 0.38), _a(P.CARNELIAN_LIGHT))
     return C.outline(L.image(), 1, P.VOID + (230,))
 
 
-@picture("ATTRI_HP_TEX.png", "25x25", "heart: one hit point in the HUD; also the hit point icon of level selection (43.5x84)")
+@picture("ATTRI_HP_TEX.png", "25x25,43.5x84",
+         "heart amulet: one hit point in the HUD; also the hit point icon of the attribute panel",
+         note="one file for a square HUD mesh and a tall panel mesh: a heart 0.9 wide to 1 high under a gold "
+              "loop, 36x48, reads as a full heart squashed in the HUD and as a tall amulet on the panel")
 def heart():
-    return _heart(32, 40)
+    return _heart(36, 48, top=8)
 
 
 def _compass_face(w, h):
@@ -207,7 +220,8 @@ def cursor():
 alias("cursorTEX.png", "CURSORTEX.png", "14x14", "the same pointer under the spelling level selection loads")
 
 
-@picture("TEX_INDICATOR_TEX.png", "10x10", "text caret of the name fields: a gold bar edged dark, on clear white")
+@picture("TEX_INDICATOR_TEX.png", "10x10", "text caret of the name fields: a gold bar edged dark, on the white of the field",
+         blended=False, clear="#ffffff")
 def caret():
     img = C.new(10, 10, (255, 255, 255, 0))
     px = img.load()

@@ -5,7 +5,7 @@ Owns: "EgyptMain.png", "WINSCREEN.png", "LOSESCREEN.png", "howtoplay_scroll.png"
 Pages leave clear the places where the game lays its own buttons over them.
 """
 import numpy as np
-from PIL import Image, ImageDraw
+from PIL import Image, ImageDraw, ImageFilter
 
 import canvas as C
 import items as I
@@ -13,6 +13,7 @@ import materials as M
 import palette as P
 import sprites as S
 import text as T
+import world as W
 from registry import picture
 
 
@@ -28,33 +29,59 @@ def title():
     return img
 
 
-def _end_screen(w, h, seed, title, line, accent, figure):
+def _rays(w, h, centre, color, count, spread, length, alpha, seed):
+    """Soft shafts of light fanning up from a point, for the figure of an end screen."""
+    rng = np.random.default_rng(seed)
+    L = C.SSLayer(w, h, ss=2)
+    cx, cy = centre
+    for i in range(count):
+        a = -np.pi / 2 + (i - (count - 1) / 2.0) * spread / max(1, count - 1) + rng.uniform(-0.04, 0.04)
+        half = rng.uniform(0.025, 0.05)
+        r = length * rng.uniform(0.7, 1.0)
+        L.poly([(cx, cy), (cx + r * np.cos(a - half), cy + r * np.sin(a - half)),
+                (cx + r * np.cos(a + half), cy + r * np.sin(a + half))], color + (int(alpha * rng.uniform(0.6, 1.0)),))
+    return L.image().filter(ImageFilter.GaussianBlur(6))
+
+
+# The levels draw the end screens at scale 1.1 over an 800 x 600 view, so a band 30 high above and below
+# and 36 wide at each side lies outside it: what matters stays inside.
+END_EDGE_Y = 30
+
+
+def _end_screen(w, h, seed, title, line, accent, figure, light):
+    """A full view of the tomb: the title panel and, below it, the figure drawn at full size (not a
+    small sprite magnified) in a pool of its own light."""
     img = M.stone_blocks(w, h, seed, course_h=66, block_w=(110, 220), base=P.STONE_MID, cracks=30)
     img = M.darken(img, 0.45)
     img = M.vignette(img, 0.8, 1.6)
-    M.khekher_band(img, (0, 0, w, 22))
-    M.khekher_band(img, (0, h - 22, w, h))
+    top, bottom = END_EDGE_Y, h - END_EDGE_Y
+    fx, fy = (w - figure.size[0]) // 2, bottom - 22 - figure.size[1]
+    img.alpha_composite(_rays(w, h, (w / 2, fy + figure.size[1] * 0.55), light, 13, 2.2, 420, 70, seed + 3))
+    img.alpha_composite(I.radial(w, h, w / 2, fy + figure.size[1] * 0.6, 260, 120, light, 80, 1.8))
+    M.khekher_band(img, (0, top, w, top + 22))
     panel = M.stone_panel(620, 300, seed + 1, base=P.mix(accent, P.STONE_DARK, 0.6))
-    img.alpha_composite(panel, dest=((w - 620) // 2, 150))
+    py = top + 34
+    img.alpha_composite(panel, dest=((w - 620) // 2, py))
     sz = T.fit_size(title, P.FONT_DISPLAY, 560, 70)
-    T.gold_text(img, title, (w / 2, 250), sz, stroke=3, shadow=4)
-    T.plain_text(img, line, (w / 2, 330), 26, P.CREAM, P.FONT_BODY, stroke=2, stroke_color=P.VOID)
-    M.hieroglyph_row(img, ((w - 520) // 2, 380, (w + 520) // 2, 420), seed + 2, 34, mode="paint", color=P.GOLD)
-    big = figure.resize((figure.size[0] * 3, figure.size[1] * 3), Image.NEAREST)
-    img.alpha_composite(big, dest=((w - big.size[0]) // 2, 470))
+    T.gold_text(img, title, (w / 2, py + 100), sz, stroke=3, shadow=4)
+    T.plain_text(img, line, (w / 2, py + 180), 26, P.CREAM, P.FONT_BODY, stroke=2, stroke_color=P.VOID)
+    M.hieroglyph_row(img, ((w - 520) // 2, py + 230, (w + 520) // 2, py + 270), seed + 2, 34, mode="paint",
+                     color=P.GOLD)
+    img.alpha_composite(figure, dest=(fx, fy))
+    M.khekher_band(img, (0, bottom - 22, w, bottom))
     return img
 
 
-@picture("WINSCREEN.png", "871.2x660", "won: LEVEL CLEARED over the open exit portal")
+@picture("WINSCREEN.png", "871.2x660", "won: LEVEL CLEARED over the open exit portal, light pouring from it")
 def win_screen():
     return _end_screen(872, 660, 71, "LEVEL CLEARED", "The gate opens to the next chamber", P.TURQUOISE,
-                       I.exit_portal())
+                       I.exit_portal(k=4), P.TURQUOISE_LIGHT)
 
 
-@picture("LOSESCREEN.png", "871.2x660", "lost: LOST IN THE DARK over the explorer's ghost")
+@picture("LOSESCREEN.png", "871.2x660", "lost: LOST IN THE DARK over the explorer's ghost rising in a pale light")
 def lose_screen():
     return _end_screen(872, 660, 72, "LOST IN THE DARK", "The tomb keeps another soul", P.CARNELIAN,
-                       S.ghost())
+                       S.ghost(k=4), P.TURQUOISE)
 
 
 def _key_cap(img, center, label, size=18):
@@ -81,7 +108,18 @@ def _help_row(img, y, keys, text_line, keys_right=270, x_text=292):
     T.plain_text(img, text_line, (x_text, y), 21, P.INK, P.FONT_BODY, anchor="lm")
 
 
-@picture("howtoplay_scroll.png", "800x600", "help page: every control and what batteries, spikes and the exit do")
+def _icon(img, box_h, box_w=None):
+    """A game picture made small for the help page: shrunk smoothly to fit box_h high (and box_w wide)."""
+    w, h = img.size
+    k = box_h / float(h)
+    if box_w is not None:
+        k = min(k, box_w / float(w))
+    return img.resize((max(1, int(round(w * k))), max(1, int(round(h * k)))), Image.LANCZOS)
+
+
+@picture("howtoplay_scroll.png", "800x600",
+         "help page: every control, and everything a player meets: batteries, the zoom eye, spikes, falling "
+         "slabs, the boulder and the exit")
 def help_page():
     w, h = 800, 600
     img = C.new(w, h)
@@ -97,8 +135,8 @@ def help_page():
         L.rect((14, y, 786, y + 20), P.GOLD_DARK + (255,), radius=10)
         L.rect((18, y + 3, 782, y + 9), P.GOLD_LIGHT + (255,), radius=3)
         img.alpha_composite(L.image())
-    T.gold_text(img, "HOW TO PLAY", (400, 72), 44, stroke=2, shadow=2, edge=P.INK)
-    M.stripe_band(img, (150, 100, 650, 106), [P.LAPIS, P.GOLD, P.LAPIS], [2, 2, 2])
+    T.gold_text(img, "HOW TO PLAY", (400, 66), 42, stroke=2, shadow=2, edge=P.INK)
+    M.stripe_band(img, (150, 92, 650, 98), [P.LAPIS, P.GOLD, P.LAPIS], [2, 2, 2])
     rows = [
         (["A", "D"], "walk left and right"),
         (["SPACE"], "jump"),
@@ -108,21 +146,26 @@ def help_page():
         (["0"], "restart the level (in some levels)"),
         (["F1"], "full screen on and off"),
     ]
-    y = 138
+    y = 120
     for keys, line in rows:
         _help_row(img, y, keys, line)
-        y += 40
-    M.stripe_band(img, (90, y - 10, 710, y - 8), [P.PAPYRUS_DARK], [2])
-    y += 18
+        y += 33
+    M.stripe_band(img, (90, y - 14, 710, y - 12), [P.PAPYRUS_DARK], [2])
+    y += 8
+    # What a player meets, each with its own picture as the game shows it.
     things = [
-        (I.battery_pickup(), "Batteries feed the torch. When it dies, the dark takes you."),
+        (_icon(I.battery_pickup(), 32), "Batteries feed the torch. When it dies, the dark takes you."),
+        (_icon(I.power_eye(), 30), "The golden eye lifts the darkness for a few seconds."),
         (_spike_icon(), "Spikes cost one heart. Lose every heart and the level is lost."),
-        (I.exit_portal(), "Reach the exit portal to clear the level."),
+        (_icon(W.dropping_slab().rotate(90, expand=True), 14, 64),
+         "Red granite slabs fall the way gravity pulls: keep clear."),
+        (_icon(W.boulder(), 30, 64), "In the last level a boulder rolls after you: run for the exit."),
+        (_icon(I.exit_portal(), 32), "Reach the exit portal to clear the level."),
     ]
     for icon, line in things:
         img.alpha_composite(icon, dest=(int(150 - icon.size[0] / 2), int(y - icon.size[1] / 2)))
-        T.plain_text(img, line, (205, y), 20, P.INK, P.FONT_BODY, anchor="lm")
-        y += 48
+        T.plain_text(img, line, (205, y), 19, P.INK, P.FONT_BODY, anchor="lm")
+        y += 35
     return img
 
 

@@ -16,9 +16,9 @@ def _a(c, a=255):
     return c + (a,)
 
 
-def _explorer():
-    """The explorer facing right, at 50x50, before the outline."""
-    L = C.SSLayer(50, 50)
+def _explorer(k=1):
+    """The explorer facing right, at 50x50 (or k times that, drawn at that detail), before the outline."""
+    L = C.SSLayer(50, 50, k=k)
     # Back leg and boot (further from the viewer, a shade darker).
     L.poly([(20, 33), (25, 33), (24.5, 44), (20.5, 44)], _a(P.mix(P.CLOTH_BROWN, P.VOID, 0.25)))
     L.poly([(19.5, 43.5), (25, 43.5), (25.5, 49.8), (17.5, 49.8), (18, 46)], _a(P.LEATHER_DARK))
@@ -55,19 +55,19 @@ def _explorer():
     return L.image()
 
 
-def _front_arm():
+def _front_arm(k=1):
     """The arm that holds the torch, drawn over the shirt, ending at the hand point (25, 33)."""
-    L = C.SSLayer(50, 50)
+    L = C.SSLayer(50, 50, k=k)
     L.line([(24.5, 21.5), (26, 27), (25.5, 32)], _a(P.mix(P.KHAKI, P.SANDSTONE_HIGH, 0.2)), 3.4)
     L.line([(24.5, 21.5), (26, 27)], _a(P.KHAKI_DARK), 0.7)
     return L.image()
 
 
 @picture("CHARACTER.png", "50x50", "the explorer facing right: pith helmet, khaki shirt, red scarf")
-def character_right():
-    img = _explorer()
-    img.alpha_composite(_front_arm())
-    return C.outline(img, 1, P.VOID + (235,))
+def character_right(k=1):
+    img = _explorer(k)
+    img.alpha_composite(_front_arm(k))
+    return C.outline(img, k, P.VOID + (235,))
 
 
 @picture("character_left.png", "50x50", "the explorer facing left, the mirror of CHARACTER.png")
@@ -76,15 +76,15 @@ def character_left():
 
 
 @picture("ghost.png", "50x50", "the lost explorer: a pale turquoise shade of the character, fading at the feet")
-def ghost():
-    base = character_right()
+def ghost(k=1):
+    base = character_right(k)
     a = np.asarray(base.split()[3]).astype(np.float64)
     lum = np.asarray(base.convert("L")).astype(np.float64) / 255.0
     h, w = a.shape
-    yy = np.mgrid[0:h, 0:w][0]
+    yy = np.mgrid[0:h, 0:w][0] / float(k)
     # The body thins out into wisps below the belt.
     wisp = np.clip((47 - yy) / 14.0, 0, 1)
-    wave = 0.5 + 0.5 * np.sin(np.arange(w) * 0.9)[None, :]
+    wave = 0.5 + 0.5 * np.sin(np.arange(w) / float(k) * 0.9)[None, :]
     fade = np.where(yy > 33, wisp * (0.6 + 0.4 * wave), 1.0)
     pale = np.array(P.TURQUOISE_LIGHT, dtype=np.float64)
     deep = np.array(P.TURQUOISE_DARK, dtype=np.float64)
@@ -92,11 +92,11 @@ def ghost():
     alpha = a * 0.72 * fade
     img = C.from_array(np.dstack([rgb, alpha]))
     # Hollow eyes.
-    L = C.SSLayer(50, 50)
+    L = C.SSLayer(50, 50, k=k)
     L.ellipse((27.2, 11.8, 30.2, 15.4), _a(P.VOID, 230))
     L.ellipse((23.2, 12.2, 25.6, 15.2), _a(P.VOID, 160))
     img.alpha_composite(L.image())
-    return C.glow(img, 2.0, P.TURQUOISE + (0,), 0.8)
+    return C.glow(img, 2.0 * k, P.TURQUOISE + (0,), 0.8)
 
 
 @picture("torchlight.png", "15x15", "the hand with the electric torch, pointing along +x, turned to the aim about its centre")

@@ -12,7 +12,9 @@ import palette as P
 from registry import picture
 
 
-@picture("HORIPLATFORMTEXT.png", "100x20", "horizontal platform, a carved limestone lintel (also stretched to 150x20)")
+@picture("HORIPLATFORMTEXT.png", "100x20,150x20", "horizontal platform, a carved limestone lintel",
+         blended=False, clear="none",
+         note="the long platform stretches it by half: courses and painted band run evenly along it, so it reads as a longer lintel")
 def horizontal_platform():
     w, h = 100, 20
     img = M.stone_blocks(w, h, 11, course_h=h, block_w=(30, 40), base=P.SANDSTONE_LIGHT, bevel=1, cracks=2)
@@ -29,7 +31,7 @@ def horizontal_platform():
     return img
 
 
-@picture("VERTPLATFORMTEXT.png", "20x100", "solid wall, a sandstone pillar with carved signs", blended=True)
+@picture("VERTPLATFORMTEXT.png", "20x100", "solid wall, a sandstone pillar with carved signs", blended=False, clear="none")
 def vertical_wall():
     w, h = 20, 100
     img = M.stone_blocks(w, h, 12, course_h=25, block_w=(40, 41), base=P.SANDSTONE, bevel=1, cracks=2,
@@ -44,7 +46,7 @@ def vertical_wall():
 
 
 @picture("DROPPING_PLATFORM.png", "20x100", "falling slab (drop wall, moving wall), red granite marked with gold arrows",
-         blended=False)
+         blended=False, clear="none")
 def dropping_slab():
     w, h = 20, 100
     granite = (150, 84, 76)
@@ -141,7 +143,8 @@ def _background_wall(w, h, seed):
     return img
 
 
-@picture("BACKGROUND.png", "3100x1100", "level backdrop: a deep tomb wall with friezes and carved columns, dark and low in contrast")
+@picture("BACKGROUND.png", "3100x1100", "level backdrop: a deep tomb wall with friezes and carved columns, dark and low in contrast",
+         blended=False, clear="none")
 def background():
     w, h = 3100, 1100
     img = _background_wall(w, h, 31)

@@ -6,7 +6,10 @@ Run from the repository root:   /usr/bin/python3 tools/sound/check.py [--dir ass
 For every file: it exists, sox reads it, our own decoder reads it, the container and sample format are
 the ones the game's loader expects, nothing clips and the peak stays under the ceiling. For music: at
 least 60 s long, 44.1 kHz stereo Ogg Vorbis, one common loudness (K-weighted and plain RMS), and the loop
-point joins without a click or a fade. For effects: short, starting and ending in silence.
+point joins without a click or a fade. For effects: short, starting and ending in silence; the hit cry bright enough to read as a voice.
+Loudness, as EBU R128 (report.py): each file on its target (music -16 LUFS; effects -22 LUFS as the game
+plays them, the spark at full level, the others at half), true peak at most -1 dBTP, audible through a
+200 Hz high-pass, music opening in its mood; and assets/LOUDNESS.tsv, the report, agrees with the files.
 With --rebuild it also builds everything afresh and requires byte-identical files.
 Exits non-zero if any check fails; the last line reads 'N passed, N failed'.
 """
@@ -24,6 +27,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 from audiofile import read_any  # noqa: E402
 from loudness import loudness  # noqa: E402
+import report as loudness_report  # noqa: E402
 
 MUSIC = ["ANCIENT RUINS - NewAge MSCNEW2_33.ogg", "SCI-FI-AMBIENCE_GEN-HDF-20485.ogg",
          "LOST CIVILIZATION - NewAge MSCNEW2_41.ogg", "ULTIMATE CHALLENGE - Corporate MSCSPR1_61.ogg"]
@@ -165,6 +169,59 @@ def check_effects(report, folder):
         report.expect(edges < 0.01, name + ": starts and ends in silence")
 
 
+CRY = "HUMAN-SCREAM_GEN-HDF-15252.wav"
+CRY_BRIGHT_SHARE = 0.5
+
+
+def bright_share(sig, rate, above=1000.0):
+    """The share of a sound's energy above a frequency."""
+    x = sig.mean(axis=0)
+    power = np.abs(np.fft.rfft(x)) ** 2
+    freqs = np.fft.rfftfreq(len(x), 1.0 / rate)
+    return float(power[freqs > above].sum() / max(power.sum(), 1e-20))
+
+
+def check_cry(report, folder):
+    """A cry with most of its energy low reads as a hum: most of it lies above 1 kHz."""
+    path = os.path.join(folder, CRY)
+    if not os.path.isfile(path):
+        return
+    sig, rate = read_any(path)
+    share = bright_share(sig, rate)
+    report.expect(share >= CRY_BRIGHT_SHARE, CRY + ": %.0f%% of its energy above 1 kHz (at least %.0f%%)"
+                  % (share * 100, CRY_BRIGHT_SHARE * 100))
+
+
+def read_report(path):
+    """The loudness report as {file: {column: text}}, or None if it is missing."""
+    if not os.path.isfile(path):
+        return None
+    with open(path, encoding="utf-8") as f:
+        lines = [line.rstrip("\n").split("\t") for line in f if line.strip()]
+    head = lines[0]
+    return {cells[0]: dict(zip(head, cells)) for cells in lines[1:]}
+
+
+def check_loudness(report, folder):
+    """Every file measured afresh against its target, and the kept report against the measures."""
+    kept = read_report(os.path.join(folder, loudness_report.REPORT_NAME))
+    report.expect(kept is not None, loudness_report.REPORT_NAME + ": the loudness report is kept in " + folder)
+    for name in loudness_report.TARGETS:
+        path = os.path.join(folder, name)
+        if not os.path.isfile(path):
+            continue
+        figures = loudness_report.measure(path)
+        found = loudness_report.problems(name, figures)
+        report.expect(not found, name + ": %.1f LUFS, %.1f dBTP, %.1f LUFS through 200 Hz high-pass%s"
+                      % (figures["lufs"], figures["tp"], figures["speaker"],
+                         (": " + "; ".join(found)) if found else ""))
+        if kept is not None:
+            row = kept.get(name, {})
+            agrees = (row.get("LUFS") == "%.1f" % figures["lufs"] and row.get("dBTP") == "%.1f" % figures["tp"])
+            report.expect(agrees, name + ": the loudness report gives %s LUFS, %s dBTP, as measured"
+                          % (row.get("LUFS"), row.get("dBTP")))
+
+
 def check_rebuild(report, folder):
     """Build everything afresh into a temporary folder; each file must match the one in `folder`."""
     builder = os.path.join(os.path.dirname(os.path.abspath(__file__)), "build.py")
@@ -189,6 +246,8 @@ def main():
     print("sound check of " + folder)
     check_music(report, folder)
     check_effects(report, folder)
+    check_cry(report, folder)
+    check_loudness(report, folder)
     if args.rebuild:
         check_rebuild(report, folder)
     total = sum(os.path.getsize(os.path.join(folder, n)) for n in MUSIC + list(EFFECTS)

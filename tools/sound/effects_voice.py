@@ -7,7 +7,7 @@ formant tracks sample by sample), plus aspiration noise shaped by the same reson
 import numpy as np
 
 from dsp import (SR, samples, time_axis, envelope, filter_causal, filter_sweep, lowpass, highpass,
-                 bandpass)
+                 bandpass, chain, peaking)
 from mixdown import room_impulse, reverb_linear
 
 # Vowel formants (Hz) and bandwidths, adult voice.
@@ -92,22 +92,24 @@ def pained_cry(seed):
     rng = np.random.default_rng(seed)
     n = samples(0.95)
     t = time_axis(n)
-    f0 = envelope([(0.0, 300.0), (0.05, 470.0), (0.12, 520.0), (0.4, 470.0), (0.7, 360.0),
-                   (0.9, 290.0)], n)
+    # A scream sits high and strained: a pitch near 600 Hz, a bright spectrum with the edge of a
+    # forced voice about 3 kHz, and hoarse noise in it, so it never reads as a hum.
+    f0 = envelope([(0.0, 380.0), (0.05, 620.0), (0.12, 680.0), (0.4, 620.0), (0.7, 480.0),
+                   (0.9, 400.0)], n)
     f0 *= 1.0 + 0.02 * np.sin(2 * np.pi * 7.0 * t) * np.clip((t - 0.15) / 0.2, 0.0, 1.0)
 
     def vowel(times):
         # From an open 'aah' toward a duller 'uh' as the breath runs out.
         return _blend(VOWEL_A, VOWEL_UH, np.clip((times - 0.35) / 0.5, 0.0, 1.0))
 
-    voice = voiced(f0, vowel, rng, tilt=0.85, jitter=0.015, roughness=0.35)
+    voice = voiced(f0, vowel, rng, tilt=0.45, jitter=0.02, roughness=0.6)
     voice /= np.max(np.abs(voice)) + 1e-12
     env = envelope([(0.0, 0.0), (0.02, 0.8), (0.08, 1.0), (0.45, 0.85), (0.75, 0.45), (0.9, 0.0)], n)
     breath = aspiration(n, vowel, rng)
     breath /= np.max(np.abs(breath)) + 1e-12
-    out = voice * env + 0.25 * breath * envelope([(0.0, 0.0), (0.01, 1.0), (0.1, 0.4), (0.9, 0.2),
+    out = voice * env + 0.4 * breath * envelope([(0.0, 0.0), (0.01, 1.0), (0.1, 0.4), (0.9, 0.2),
                                                  (0.94, 0.0)], n)
-    out = filter_causal(out, highpass(120.0, 2))[:n]
+    out = filter_causal(out, chain(highpass(250.0, 2), peaking(3000.0, 1.0, 8.0)))[:n]
     room = reverb_linear(np.stack([out, out]), room_impulse(rng, t60=0.8, predelay=0.01), wet=0.2)
     length = samples(1.3)
     return room[:, :length] * _tail_fade(length, 0.15)

@@ -89,3 +89,32 @@ def normalise(sig, target=-18.0, ceiling_db=-1.5, circular=True):
 def normalise_peak(sig, peak_target_db):
     """For effects: scale so the highest sample sits at the given level."""
     return sig * undb(peak_target_db - peak_db(sig))
+
+
+def master(sig, target_lufs, ceiling_db, circular, rounds=6):
+    """Bring a sound to a gated integrated loudness (EBU R128, see r128.py) with its peaks held under
+    the ceiling by the limiter; a few rounds, as limiting takes off a little loudness each time."""
+    import r128
+    out = sig
+    for _ in range(rounds):
+        level = r128.integrated(out)
+        if abs(target_lufs - level) < 0.05 and np.max(np.abs(out)) <= undb(ceiling_db):
+            break
+        out = limit(out * undb(target_lufs - level), ceiling_db, circular)
+    return out
+
+
+def strongest_start(sig, step_seconds, window_seconds=2.0):
+    """The offset, a whole number of steps (bars), after which the next two seconds are loudest through a
+    200 Hz high-pass (melody, chords and drums, not a bare drone): where a loop that has no beginning of
+    its own should begin, so it sets its mood at once."""
+    import r128
+    n = sig.shape[1]
+    step = int(round(step_seconds * SR))
+    win = int(window_seconds * SR)
+    best, best_level = 0, -1e9
+    for start in range(0, n - win, step):
+        level = r128.integrated(sig[:, start:start + win], speaker=True)
+        if level > best_level + 0.05:
+            best, best_level = start, level
+    return best

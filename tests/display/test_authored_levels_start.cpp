@@ -1,0 +1,48 @@
+// The authored levels put their character on something: left alone, it does not fall in its first two seconds.
+#include "LevelRun.h"
+#include "TestEnv.h"
+
+#include "gamestatelist.h"
+#include "playcommon.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+class AuthoredLevelStart : public ::testing::TestWithParam<int>
+{
+};
+
+} // namespace
+
+TEST_P(AuthoredLevelStart, TheCharacterStandsStillWithoutInputForItsFirst120Frames)
+{
+    const int index = GetParam();
+    // The display tests run in the assets folder, where the authored files are.
+    const std::string file = "Level" + std::to_string(index + 1) + ".txt";
+    const std::string text = ReadFileText(file);
+    if (text.empty())
+        GTEST_SKIP() << file << " is not authored yet";
+
+    LevelRun run(GS_LEVEL_0 + index, text);
+    run.Step();
+    ASSERT_NE(run.Level(), nullptr);
+    const float startX = run.Player()->posCurr.x;
+    const float startY = run.Player()->posCurr.y;
+    for (int frame = 1; frame < 120; frame++)
+    {
+        ASSERT_TRUE(run.Step());
+        ASSERT_NE(run.Level(), nullptr) << "the level ended at frame " << frame;
+        ASSERT_NEAR(run.Player()->posCurr.y, startY, 0.5f) << "the character fell at frame " << frame;
+    }
+    EXPECT_TRUE(gPlay.sOnGround) << "the character stands on something";
+    EXPECT_NEAR(run.Player()->posCurr.x, startX, 0.5f);
+    EXPECT_EQ(run.Vars().sHitPoints, 3) << "nothing hurts the character where it starts";
+}
+
+INSTANTIATE_TEST_SUITE_P(Authored, AuthoredLevelStart, ::testing::Values(0, 1, 2, 3, 4, 5),
+                         [](const ::testing::TestParamInfo<int>& info) {
+                             return "Level" + std::to_string(info.param + 1);
+                         });

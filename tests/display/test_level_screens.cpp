@@ -1,0 +1,57 @@
+// Pictures of a running level, saved for a person to look at: the start, a flip in progress, the turned-over
+// world, and the pause menu.
+#include "KRPlatformScripted.h"
+#include "LevelRun.h"
+#include "TestEnv.h"
+
+#include "gameobjkinds.h"
+#include "gamestatelist.h"
+#include "playcommon.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace {
+
+std::map<int, std::string> sShots;
+
+void ShootAtPresent(int step)
+{
+    auto it = sShots.find(step);
+    if (it != sShots.end())
+        SaveScreenshot(TestOutputDir() + "/" + it->second, 800, 600);
+}
+
+std::string Room()
+{
+    return LevelText({{3, -300, -140}, {3, -200, -140}, {3, -100, -140}, {4, 25, -140}, {3, 150, -140},
+                      {3, 250, -140}, {2, -360, -80}, {2, 320, -80}, {3, -100, 120}, {3, 0, 120}, {3, 100, 120},
+                      {6, 150, -118}, {27, 200, 108}, {10, 250, -100}, {32, -250, -100}, {8, -150, -100}});
+}
+
+} // namespace
+
+TEST(LevelScreens, StartFlipAndTurnedWorldAreSavedForLooking)
+{
+    sShots = {{20, "level-start.png"}, {75, "level-flip-in-progress.png"}, {160, "level-turned-over.png"}};
+    LevelRun run(GS_LEVEL_2, Room(), "screen 800 600\ncursor 600 200 0\nkey LButton 70\n");
+    KRScriptSetPresentHook(ShootAtPresent);
+    run.Steps(90);
+    ASSERT_NE(run.Level(), nullptr);
+    EXPECT_TRUE(gPlay.sGravityInverted);
+    run.Steps(80);
+    KRScriptSetPresentHook(nullptr);
+    for (auto& shot : sShots)
+        EXPECT_FALSE(ReadFileText(TestOutputDir() + "/" + shot.second).empty()) << shot.second;
+}
+
+TEST(LevelScreens, PauseMenuIsSavedForLooking)
+{
+    sShots = {{40, "level-pause-menu.png"}};
+    LevelRun run(GS_LEVEL_2, Room(), "screen 800 600\ncursor 500 150 0\nkey Escape 30\n");
+    KRScriptSetPresentHook(ShootAtPresent);
+    run.Steps(45);
+    KRScriptSetPresentHook(nullptr);
+    ASSERT_NE(run.Level(), nullptr);
+    EXPECT_TRUE(run.Vars().sPaused);
+}

@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# `make run`, typed as the README gives it, in a clean copy of the sources on a desktop with a window manager: it
+# builds the game without warnings as errors, the window "Quillon" appears, and the window manager's close ends
+# make with status 0.
+set -euo pipefail
+source "$(dirname "$0")/../e2e/lib/common.sh"
+on_private_server 1920x1080 "$@"
+root="$(cd "$(dirname "$0")/../.." && pwd)"
+
+scratch="$(mktemp -d)"
+openbox >/dev/null 2>&1 &
+WM_PID=$!
+cleanup() {
+  stop_game
+  kill "$WM_PID" 2>/dev/null || true
+  rm -rf "$scratch"
+}
+trap cleanup EXIT
+
+"$root/tools/clean-copy.sh" "$scratch/quillon"
+GAME_LOG="$E2E_OUT/make-run.log"
+(cd "$scratch/quillon" && exec make run) >"$GAME_LOG" 2>&1 </dev/null &
+GAME_PID=$!
+
+# The build comes first: up to ten minutes on a busy machine.
+WID=""
+for _ in $(seq 1 6000); do
+  WID=$(xdotool search --name '^Quillon$' 2>/dev/null | head -n 1 || true)
+  [ -n "$WID" ] && break
+  kill -0 "$GAME_PID" 2>/dev/null || fail "make run ended before the window Quillon appeared"
+  sleep 0.1
+done
+[ -n "$WID" ] || fail "no window titled Quillon appeared"
+grep -q "^Kestrel Runtime version: 3.03$" "$GAME_LOG" || fail "the game did not print its banner"
+
+# A player's build shows warnings but never stops on them.
+flags="$(cat "$scratch/quillon/build/release/CMakeFiles/quillon.dir/flags.make")"
+grep -q -- "-Wall" <<<"$flags" || fail "the release build does not show warnings"
+! grep -q -- "-Werror" <<<"$flags" || fail "the release build treats warnings as errors"
+
+wait_size "$(screen_size)"
+screenshot make-run
+wmctrl -c Quillon
+wait_exit
+[ "$GAME_STATUS" = "0" ] || fail "make run ended with status $GAME_STATUS after the window manager closed the window"
+echo "PASS"

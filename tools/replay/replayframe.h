@@ -1,0 +1,17 @@
+// replayframe.h -- the frame being drawn, read back and saved as a PNG file.
+//
+// Used by the replay tool's shot command, by the tests' screenshots and by the level shot tool: call it before the
+// buffers swap (a present hook) or after drawing into the back buffer.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// The bottom left width by height pixels of the back buffer as RGBA, top row first, fully opaque.
+std::vector<unsigned char> ReplayReadFrame(int width, int height);
+
+// Writes width by height RGBA pixels, top row first, to a PNG.
+bool ReplayWritePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels);
+
+// Both in one: the bottom left width by height pixels of the back buffer to a PNG.
+bool ReplaySaveFramePng(const std::string& path, int width, int height);
