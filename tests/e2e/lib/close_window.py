@@ -14,7 +14,8 @@ def main():
     event = protocol.event.ClientMessage(
         window=window, client_type=wm_protocols, data=(32, [wm_delete, X.CurrentTime, 0, 0, 0]))
     window.send_event(event, event_mask=X.NoEventMask)
-    d.flush()
+    # A round trip, so that the server has handled the request before this client goes away.
+    d.sync()
     d.close()
 
 

@@ -86,23 +86,21 @@ focus_game() {
 }
 
 # Presses F1 and holds it until the window has the size that F1 gives (the game samples keys once a frame, and
-# a press shorter than a slow frame would never be seen; holding F1 longer toggles nothing more).
+# a press shorter than a slow frame would never be seen; holding F1 longer toggles nothing more). After the release
+# it waits for two frames, so that a frame has seen F1 up before the next press: a release and a press that fall
+# between the same two frames are no press at all for the game.
 toggle_full_screen() {
   local want="$1"
   focus_game
   xdotool keydown F1
   wait_size "$want"
   xdotool keyup F1
+  wait_frames 2
 }
 
-# Holds a key long enough for a polled frame to see it, as a real key press through the X server's input
-# extension (a key of xdotool's --window option is a sent event, which a window without focus may not see).
-press_key() {
-  focus_game
-  xdotool keydown "$1"
-  sleep 0.15
-  xdotool keyup "$1"
-  sleep 0.15
+# Waits until the game has presented COUNT more frames (a minute at most: see wait_size).
+wait_frames() {
+  /usr/bin/python3 "$E2E_LIB/wait_frames.py" "$WID" "$1" 60 || fail "the game did not show $1 more frames"
 }
 
 # Asks the window to close, as a window manager's close button does: one request, and a failure to send it fails the
