@@ -1,5 +1,7 @@
 // The authored levels put their character on something: left alone, it does not fall in its first two seconds.
+// Each level's start is also saved as a picture, to be looked at.
 #include "LevelRun.h"
+#include "LevelScenes.h"
 #include "TestEnv.h"
 
 #include "gamestatelist.h"
@@ -40,6 +42,24 @@ TEST_P(AuthoredLevelStart, TheCharacterStandsStillWithoutInputForItsFirst120Fram
     EXPECT_TRUE(gPlay.sOnGround) << "the character stands on something";
     EXPECT_NEAR(run.Player()->posCurr.x, startX, 0.5f);
     EXPECT_EQ(run.Vars().sHitPoints, 3) << "nothing hurts the character where it starts";
+}
+
+TEST_P(AuthoredLevelStart, ItsStartIsSavedForLooking)
+{
+    const int index = GetParam();
+    const std::string file = "Level" + std::to_string(index + 1) + ".txt";
+    const std::string text = ReadFileText(file);
+    if (text.empty())
+        GTEST_SKIP() << file << " is not authored yet";
+
+    // A third of a second in, when the view has settled on the character, at one pixel per world unit.
+    const std::string name = "level" + std::to_string(index + 1) + "-start.png";
+    LevelRun run(GS_LEVEL_0 + index, text, "screen 800 600\n");
+    ShootAtSteps({{20, name}});
+    run.Steps(21);
+    StopShooting();
+    ASSERT_NE(run.Level(), nullptr);
+    EXPECT_FALSE(ReadFileText(ShotPath(name)).empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Authored, AuthoredLevelStart, ::testing::Values(0, 1, 2, 3, 4, 5),

@@ -3,6 +3,7 @@
 // state the level leaves for, the level's flag in States.txt.
 #include "TestEnv.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <dirent.h>
 #include <fstream>
@@ -13,6 +14,8 @@
 #include <vector>
 
 namespace {
+
+const int kShotEvery = 20;
 
 std::string SourceDir()
 {
@@ -87,11 +90,17 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     ASSERT_FALSE(e.state.empty()) << "the script names no # expect-state";
     ASSERT_GT(e.lastStep, 0) << "the script has no close";
 
-    // A small screen for speed, and a probe at every step.
+    // A small screen for speed, a probe at every step, and a picture every 20 steps of the last 400 (a winning
+    // script closes a few seconds after the win): the last one before the level is won is kept as the level's
+    // picture near its exit.
     const std::string dir = MakeTempDir("level-replay");
     std::string full = "screen 320 240\n" + script;
     for (int step = 0; step <= e.lastStep; step++)
         full += "probe " + std::to_string(step) + "\n";
+    if (e.won)
+        for (int step = std::max(0, e.lastStep - 400) / kShotEvery * kShotEvery; step <= e.lastStep;
+             step += kShotEvery)
+            full += "shot " + std::to_string(step) + " " + dir + "/step" + std::to_string(step) + ".png\n";
     WriteFileText(dir + "/script.txt", full);
     const std::string documents = dir + "/documents";
     const std::string saves = documents + "/Varnholt/Mandrel";
@@ -105,15 +114,26 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     ASSERT_TRUE(WIFEXITED(raw) && WEXITSTATUS(raw) == 0) << ReadFileText(dir + "/err.txt");
 
     bool sawWon = false, sawLost = false, sawNext = e.next.empty();
+    int wonStep = -1;
     std::istringstream out(ReadFileText(dir + "/out.txt"));
     std::string line;
     while (std::getline(out, line))
     {
+        if (!sawWon && line.find(" sWon=1") != std::string::npos)
+            wonStep = std::atoi(line.c_str() + line.find("step=") + 5);
         sawWon = sawWon || line.find(" sWon=1") != std::string::npos;
         sawLost = sawLost || line.find(" sLost=1") != std::string::npos;
         sawNext = sawNext || line.find(" next=" + e.next + " ") != std::string::npos;
     }
     EXPECT_EQ(sawWon, e.won) << "won";
+    if (wonStep >= 0)
+    {
+        const int shotStep = std::max(0, (wonStep - 1) / kShotEvery * kShotEvery);
+        const std::string name = GetParam().substr(0, GetParam().size() - 7) + "-near-exit.png";
+        const std::string picture = ReadFileText(dir + "/step" + std::to_string(shotStep) + ".png");
+        EXPECT_FALSE(picture.empty()) << "no picture at step " << shotStep;
+        std::ofstream(TestOutputDir() + "/" + name, std::ios::binary) << picture;
+    }
     EXPECT_EQ(sawLost, e.lost) << "lost";
     EXPECT_TRUE(sawNext) << "the level never asked for " << e.next;
     const std::string states = ReadFileText(saves + "/States.txt");

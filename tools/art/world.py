@@ -150,7 +150,20 @@ def background():
     img = _background_wall(w, h, 31)
     img = M.darken(img, 0.5, toward=P.VOID)
     img = M.vignette(img, 0.35, 2.0)
+    img = _fade_edges(img, 240)
     return _posterize(img, 5)
+
+
+def _fade_edges(img, margin):
+    """Let every edge sink into the tomb's dark (the black the game clears to): the backdrop is smaller than the
+    camera's reach, and the torch must never find where the wall ends."""
+    a = C.to_array(img)
+    h, w = a.shape[:2]
+    yy, xx = np.mgrid[0:h, 0:w]
+    nearest = np.minimum(np.minimum(xx, w - 1 - xx), np.minimum(yy, h - 1 - yy)).astype(np.float64)
+    t = np.clip(nearest / margin, 0, 1)
+    a[..., :3] *= (t * t * (3 - 2 * t))[..., None]
+    return C.from_array(a)
 
 
 def _posterize(img, levels_step):
