@@ -1,6 +1,8 @@
 // bench_level_frame.cpp -- what one frame of a full level costs, uncapped: a level of some 350 live instances
-// (platforms, walls, spikes, drop walls, the level's own moving platforms, the view objects) run on the real
-// window and OpenGL context through its Update and Draw, without the frame limiter. Prints the median and the
+// (platforms, walls, spikes, drop walls, the level's own moving platforms, the view objects, the darkness, the
+// HUD) run on the real window and OpenGL context through its Update and Draw, without the frame limiter. The
+// pointer sweeps the torch round the character, and Esc pauses the level for a stretch and resumes it, so that
+// the pause menu's frames are measured too. Prints the median and the
 // 99th percentile per frame of Update alone and of Update, Draw and the present together; then of Update alone
 // over frames that draw nothing (run first), so that the software renderer's threads, busy with an earlier
 // frame, do not compete with it for the processor.
@@ -18,6 +20,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <dirent.h>
@@ -128,6 +131,19 @@ int main()
         KRSysUpdate();
     }
 
+    // The drawn frames: the pointer circles the window's middle once every two seconds, turning the torch all the
+    // way round; Esc opens the pause menu at a quarter of the frames and closes it at a half.
+    const int first = KRScriptGetStep();
+    for (int frame = 0; frame < warmUp + frames; frame++)
+    {
+        const double turn = 6.2831853 * (double)frame / 120.0;
+        KRScriptSetCursor(first + frame, 400 + (int)(250.0 * std::cos(turn)), 300 + (int)(200.0 * std::sin(turn)));
+    }
+    const unsigned char escape = 27;
+    KRScriptHoldKey(escape, first + warmUp + frames / 4, first + warmUp + frames / 4);
+    KRScriptHoldKey(escape, first + warmUp + frames / 2, first + warmUp + frames / 2);
+    int pausedFrames = 0;
+
     std::vector<double> update, whole;
     for (int frame = 0; frame < warmUp + frames; frame++)
     {
@@ -143,6 +159,7 @@ int main()
         KRSysUpdate();
         if (frame >= warmUp)
         {
+            pausedFrames += pLevel->vars.sPaused ? 1 : 0;
             update.push_back(updateEnd - updateStart);
             whole.push_back(end - start);
         }
@@ -153,8 +170,14 @@ int main()
         }
     }
 
-    std::printf("level frame, %d live instances, %d frames drawn and %d not, uncapped, window 800x600\n", live,
-                frames, updateFrames);
+    std::printf("level frame, %d live instances, %d frames drawn (%d of them paused, the torch turning) and %d not, "
+                "uncapped, window 800x600\n",
+                live, frames, pausedFrames, updateFrames);
+    if (pausedFrames == 0)
+    {
+        std::printf("the pause menu never opened\n");
+        return 1;
+    }
     std::printf("%-28s %-12s %-12s\n", "", "median (ms)", "p99 (ms)");
     std::printf("%-28s %-12.4f %-12.4f\n", "Update", Percentile(update, 0.5), Percentile(update, 0.99));
     std::printf("%-28s %-12.4f %-12.4f\n", "Update + Draw + present", Percentile(whole, 0.5),

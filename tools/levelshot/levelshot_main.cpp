@@ -11,6 +11,7 @@
 #include "levelshot.h"
 #include "replayframe.h"
 #include "replayprobe.h"
+#include "toolpath.h"
 
 #include "KRGraphics.h"
 #include "KRMtx33.h"
@@ -26,7 +27,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <limits.h>
 #include <string>
 #include <unistd.h>
 
@@ -49,16 +49,6 @@ int Fail(int status, const std::string& message)
 {
     std::fprintf(stderr, "quillon-levelshot: %s\n", message.c_str());
     return status;
-}
-
-std::string Absolute(const std::string& path)
-{
-    if (path.empty() || path[0] == '/')
-        return path;
-    char here[PATH_MAX];
-    if (!getcwd(here, sizeof(here)))
-        return path;
-    return std::string(here) + "/" + path;
 }
 
 bool ReadCount(const std::string& text, int low, int high, int* pValue)
@@ -134,7 +124,7 @@ int main(int argc, char** argv)
     int status = ReadOptions(argc, argv, &options);
     if (status != 0)
         return status;
-    options.out = Absolute(options.out);
+    options.out = ToolAbsolutePath(options.out);
 
     // Whatever the level reads or writes in the save folder stays in a scratch folder.
     char documents[] = "/tmp/quillon-levelshot-XXXXXX";

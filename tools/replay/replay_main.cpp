@@ -8,6 +8,7 @@
 // read ends it at once with status 2 and a message on standard error.
 #include "replayframe.h"
 #include "replayprobe.h"
+#include "toolpath.h"
 #include "replayscript.h"
 
 #include "KRPlatform.h"
@@ -24,7 +25,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <limits.h>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -59,17 +59,6 @@ int Fail(const std::string& message)
 {
     std::fprintf(stderr, "quillon-replay: %s\n", message.c_str());
     return kStatusBadInput;
-}
-
-// An absolute form of a path given relative to the folder the tool was started in.
-std::string Absolute(const std::string& path)
-{
-    if (path.empty() || path[0] == '/')
-        return path;
-    char here[PATH_MAX];
-    if (!getcwd(here, sizeof(here)))
-        return path;
-    return std::string(here) + "/" + path;
 }
 
 bool ValidUserLevelName(const std::string& name)
@@ -201,9 +190,9 @@ int main(int argc, char** argv)
         return Fail("cannot read the script " + options.script + ": " + error);
     // Shots and the documents folder are named from where the tool was started, not from the assets folder.
     for (ReplayShot& shot : sScript.shots)
-        shot.path = Absolute(shot.path);
+        shot.path = ToolAbsolutePath(shot.path);
     if (!options.documents.empty())
-        setenv("XDG_DOCUMENTS_DIR", Absolute(options.documents).c_str(), 1);
+        setenv("XDG_DOCUMENTS_DIR", ToolAbsolutePath(options.documents).c_str(), 1);
 
     if (chdir(options.assets.c_str()) != 0)
         return Fail("cannot enter the assets folder " + options.assets + ": " + std::strerror(errno));
