@@ -34,7 +34,7 @@ on_test_display() {
   if [ -n "${DISPLAY:-}" ] && [ "${QUILLON_TEST_ON_DISPLAY:-0}" = "1" ]; then
     "$@"
   else
-    tests/e2e/lib/with-xvfb.sh 1920x1080 "$@"
+    "$root/tests/e2e/lib/with-xvfb.sh" 1920x1080 "$@"
   fi
 }
 
