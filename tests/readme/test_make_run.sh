@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # `make run`, typed as the README gives it, in a clean copy of the sources on a desktop with a window manager: it
 # builds the game without warnings as errors, the window "Quillon" appears, and the window manager's close ends
-# make with status 0.
+# make with status 0. Then the README's replay example, in the same copy with the replay tool that make run built
+# beside the game, prints the probe line the README shows.
 set -euo pipefail
 source "$(dirname "$0")/../e2e/lib/common.sh"
 on_private_server 1920x1080 "$@"
@@ -43,4 +44,17 @@ screenshot make-run
 wmctrl -c Quillon
 wait_exit
 [ "$GAME_STATUS" = "0" ] || fail "make run ended with status $GAME_STATUS after the window manager closed the window"
+
+readme="$root/README.md"
+example='$ build/release/quillon-replay --script skip.txt --state GS_SPLASH'
+shown="$(grep -A1 -xF -- "$example" "$readme" | tail -n 1)"
+[ -n "$shown" ] && [ "$shown" != "$example" ] || fail "the README shows no replay example"
+sed -n '/^\$ cat skip.txt$/,/^\$ build/{/^\$ /d;p}' "$readme" >"$scratch/quillon/skip.txt"
+grep -q "^close " "$scratch/quillon/skip.txt" || fail "the README's skip.txt could not be read"
+status=0
+(cd "$scratch/quillon" && build/release/quillon-replay --script skip.txt --state GS_SPLASH) \
+  >"$E2E_OUT/readme-replay.log" 2>&1 </dev/null || status=$?
+[ "$status" = "0" ] || fail "the README's replay example ended with status $status"
+grep -qxF -- "$shown" "$E2E_OUT/readme-replay.log" ||
+  fail "the README's replay example printed $(grep '^probe' "$E2E_OUT/readme-replay.log"), not $shown"
 echo "PASS"
