@@ -5,6 +5,15 @@
 #include "playcommon.h"
 #include "playkeys.h"
 
+bool LevelHudHeartGoes(LevelVars* pL, GameObjInst* pHeart)
+{
+    if (pL->sHitPoints == pL->sHeartsShown)
+        return false;
+    gameObjInstDestroy(pHeart);
+    pL->sHeartsShown = pL->sHitPoints;
+    return true;
+}
+
 void LevelHudPass(LevelState* pLevel)
 {
     LevelVars* pL = &pLevel->vars;
@@ -23,12 +32,8 @@ void LevelHudPass(LevelState* pLevel)
             pInst->posCurr.x = -400.0f + cx + offset;
             pInst->posCurr.y = 230.0f + cy;
             // The first heart in slot order goes; the rest of the HUD stands still for this one frame.
-            if (pL->sHitPoints != pL->sHeartsShown)
-            {
-                gameObjInstDestroy(pInst);
-                pL->sHeartsShown = pL->sHitPoints;
+            if (LevelHudHeartGoes(pL, pInst))
                 return;
-            }
             offset += 40.0f;
         }
         else if (kind == TYPE_SIDEBAR_BG || kind == TYPE_SIDEBAR)

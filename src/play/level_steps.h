@@ -26,6 +26,9 @@ void LevelBatteryPickup(LevelState* pLevel, GameObjInst* pPickup);
 
 // HUD and compass (level_hud.cpp).
 void LevelHudPass(LevelState* pLevel);
+// A heart met in the HUD walk while the hit points and the hearts shown differ goes (it is the first in slot
+// order), and the count follows: true when it went, and the walk stops there for this frame.
+bool LevelHudHeartGoes(LevelVars* pL, GameObjInst* pHeart);
 void LevelCompass(LevelState* pLevel, f32 camX, f32 camY);
 
 // The level's own moving things and tutorial (level_logic.cpp).

@@ -218,12 +218,8 @@ static void Hud(LevelState* pLevel, f32 cx, f32 cy)
         if (kind == TYPE_HEART)
         {
             Place(pInst, cx - 380.0f + 40.0f * n, cy + 230.0f);
-            if (pL->sHitPoints != pL->sHeartsShown)
-            {
-                gameObjInstDestroy(pInst);
-                pL->sHeartsShown = pL->sHitPoints;
+            if (LevelHudHeartGoes(pL, pInst))
                 return;
-            }
             n += 1.0f;
         }
         else if (kind == TYPE_SIDEBAR || kind == TYPE_SIDEBAR_BG)
