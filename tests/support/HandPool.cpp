@@ -1,29 +1,9 @@
 // HandPool.cpp -- the hand-made pool of the play routines' unit tests.
 #include "HandPool.h"
 
-unsigned char gHandPoolKeys[256];
-
-static void FakeKeyboard(unsigned char keys[256])
-{
-    std::memcpy(keys, gHandPoolKeys, 256);
-}
-
-static void FakeCursor(int* pX, int* pY)
-{
-    *pX = 0;
-    *pY = 0;
-}
-
 void HandPool::SetUp()
 {
-    mPlatform = gKRPlatformSDL;
-    mPlatform.name = "fake keys";
-    mPlatform.GetKeyboardState = FakeKeyboard;
-    mPlatform.GetCursorPos = FakeCursor;
-    KRPlatformUse(&mPlatform);
-    std::memset(gHandPoolKeys, 0, sizeof(gHandPoolKeys));
-    KRInputUpdate();
-    KRInputUpdate();
+    FakeKeys::SetUp();
 
     gFrameDelta = 1.0f / 60.0f;
     std::memset(&gPlay, 0, sizeof(gPlay));
@@ -71,6 +51,6 @@ GameObjInst* HandPool::DropWall(f32 x, f32 y, f32 vy)
 
 void HandPool::PressSpace()
 {
-    gHandPoolKeys[32] = 0x80;
+    gFakeKeys[32] = 0x80;
     KRInputUpdate();
 }

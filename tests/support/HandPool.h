@@ -3,8 +3,8 @@
 // test holds keys on.
 #pragma once
 
+#include "FakeKeys.h"
 #include "KRInput.h"
-#include "KRPlatform.h"
 #include "collision.h"
 #include "gameloop.h"
 #include "playcommon.h"
@@ -13,9 +13,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-extern unsigned char gHandPoolKeys[256];
-
-class HandPool : public ::testing::Test
+class HandPool : public FakeKeys
 {
 protected:
     void SetUp() override;
@@ -31,6 +29,5 @@ protected:
     // Space goes down for the next routine call: triggered, as in the first frame of a press.
     void PressSpace();
 
-    KRPlatform mPlatform;
     std::unique_ptr<GameObjPool> mPool;
 };

@@ -1,7 +1,7 @@
 // The character's movement with the input module: the ground and air rules with A and D together, the wall
 // block, Space in the air, the freeze, the facing, the flip timers and the arrows' sweep.
+#include "FakeKeys.h"
 #include "KRInput.h"
-#include "KRPlatform.h"
 #include "character.h"
 #include "levelvars.h"
 #include "playcommon.h"
@@ -11,35 +11,15 @@
 
 namespace {
 
-unsigned char sKeys[256];
-
-void FakeKeyboard(unsigned char keys[256])
-{
-    std::memcpy(keys, sKeys, 256);
-}
-
-void FakeCursor(int* pX, int* pY)
-{
-    *pX = 0;
-    *pY = 0;
-}
-
 const f32 kDt = 1.0f / 60.0f;
 const f32 kG = 250.1f * kDt;
 
-class Move : public ::testing::Test
+class Move : public FakeKeys
 {
 protected:
     void SetUp() override
     {
-        mPlatform = gKRPlatformSDL;
-        mPlatform.name = "fake keys";
-        mPlatform.GetKeyboardState = FakeKeyboard;
-        mPlatform.GetCursorPos = FakeCursor;
-        KRPlatformUse(&mPlatform);
-        std::memset(sKeys, 0, sizeof(sKeys));
-        KRInputUpdate();
-        KRInputUpdate();
+        FakeKeys::SetUp();
         std::memset(&gPlay, 0, sizeof(gPlay));
         std::memset(&mC, 0, sizeof(mC));
         mC.flag = FLAG_ACTIVE;
@@ -47,16 +27,8 @@ protected:
         mL = LevelVars();
     }
 
-    // The keys of the next frame: held ones stay down, so only a new press is triggered.
-    void Frame(std::initializer_list<unsigned char> down)
-    {
-        std::memset(sKeys, 0, sizeof(sKeys));
-        for (unsigned char key : down)
-            sKeys[key] = 0x80;
-        KRInputUpdate();
-    }
+    void Frame(std::initializer_list<unsigned char> down) { KeysFrame(down); }
 
-    KRPlatform mPlatform;
     GameObjInst mC;
     LevelVars mL;
 };
