@@ -15,20 +15,24 @@ namespace {
 
 class AuthoredLevelStart : public ::testing::TestWithParam<int>
 {
+protected:
+    // The level's file, read in the assets folder where the display tests run.
+    void SetUp() override
+    {
+        const std::string file = "Level" + std::to_string(GetParam() + 1) + ".txt";
+        mText = ReadFileText(file);
+        if (mText.empty())
+            GTEST_SKIP() << file << " is not authored yet";
+    }
+
+    std::string mText;
 };
 
 } // namespace
 
 TEST_P(AuthoredLevelStart, TheCharacterStandsStillWithoutInputForItsFirst120Frames)
 {
-    const int index = GetParam();
-    // The display tests run in the assets folder, where the authored files are.
-    const std::string file = "Level" + std::to_string(index + 1) + ".txt";
-    const std::string text = ReadFileText(file);
-    if (text.empty())
-        GTEST_SKIP() << file << " is not authored yet";
-
-    LevelRun run(GS_LEVEL_0 + index, text);
+    LevelRun run(GS_LEVEL_0 + GetParam(), mText);
     run.Step();
     ASSERT_NE(run.Level(), nullptr);
     const float startX = run.Player()->posCurr.x;
@@ -47,14 +51,9 @@ TEST_P(AuthoredLevelStart, TheCharacterStandsStillWithoutInputForItsFirst120Fram
 TEST_P(AuthoredLevelStart, ItsStartIsSavedForLooking)
 {
     const int index = GetParam();
-    const std::string file = "Level" + std::to_string(index + 1) + ".txt";
-    const std::string text = ReadFileText(file);
-    if (text.empty())
-        GTEST_SKIP() << file << " is not authored yet";
-
     // A third of a second in, when the view has settled on the character, at one pixel per world unit.
     const std::string name = "level" + std::to_string(index + 1) + "-start.png";
-    LevelRun run(GS_LEVEL_0 + index, text, "screen 800 600\n");
+    LevelRun run(GS_LEVEL_0 + index, mText, "screen 800 600\n");
     ShootAtSteps({{20, name}});
     run.Steps(21);
     StopShooting();
