@@ -24,14 +24,7 @@ GAME_LOG="$E2E_OUT/make-run.log"
 GAME_PID=$!
 
 # The build comes first: up to ten minutes on a busy machine.
-WID=""
-for _ in $(seq 1 6000); do
-  WID=$(xdotool search --name '^Quillon$' 2>/dev/null | head -n 1 || true)
-  [ -n "$WID" ] && break
-  kill -0 "$GAME_PID" 2>/dev/null || fail "make run ended before the window Quillon appeared"
-  sleep 0.1
-done
-[ -n "$WID" ] || fail "no window titled Quillon appeared"
+wait_window 600 "make run"
 grep -q "^Kestrel Runtime version: 3.03$" "$GAME_LOG" || fail "the game did not print its banner"
 
 # A player's build shows warnings but never stops on them.

@@ -37,15 +37,22 @@ start_game() {
   "$binary" >"$GAME_LOG" 2>&1 </dev/null &
   GAME_PID=$!
   trap stop_game EXIT
+  wait_window 60 "the game"
+  focus_game
+}
+
+# Waits up to SECONDS for the window titled Quillon and puts its id into WID; fails if GAME_PID (named WHAT in the
+# message) ends first.
+wait_window() {
+  local seconds="$1" what="$2"
   WID=""
-  for _ in $(seq 1 600); do
+  for _ in $(seq 1 $((seconds * 10))); do
     WID=$(xdotool search --name '^Quillon$' 2>/dev/null | head -n 1 || true)
-    [ -n "$WID" ] && break
-    kill -0 "$GAME_PID" 2>/dev/null || fail "the game ended before its window appeared"
+    [ -n "$WID" ] && return 0
+    kill -0 "$GAME_PID" 2>/dev/null || fail "$what ended before its window appeared"
     sleep 0.1
   done
-  [ -n "$WID" ] || fail "no window titled Quillon appeared"
-  focus_game
+  fail "no window titled Quillon appeared"
 }
 
 # Waits until the window's size is WIDTHxHEIGHT. The game draws every frame in software; on a busy machine a frame
