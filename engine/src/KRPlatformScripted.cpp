@@ -1,14 +1,18 @@
 // KRPlatformScripted.cpp -- a back-end whose input and clock are a script, for tests.
 //
 // Owns:    the script (held keys, cursor moves, frame times, window messages), the step count, a virtual counter.
-// Borrows: the SDL back-end's window and OpenGL context, so drawing is real and can be read back.
+// Borrows: the SDL back-end's window and OpenGL context, so drawing is real and can be read back; it only switches
+//          the rasterizer off for the steps whose frames nobody looks at.
 #include "KRPlatformScripted.h"
+
+#include <GL/glew.h>
 
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -45,6 +49,22 @@ static void (*sPresentHook)(int step) = nullptr;
 static int sStep = 0;
 static uint64_t sCounter = 0;
 static int sCursorVisible = 1;
+static bool sDrawEveryStep = true;
+static std::set<int> sDrawnSteps;
+static bool sHaveContext = false;
+static int sPresentCount = 0;
+static bool sPresentedDrawn = true;
+
+// Switches the rasterizer for the step under way.
+static void ApplyDrawing()
+{
+    if (!sHaveContext)
+        return;
+    if (KRScriptStepDrawn(sStep))
+        glDisable(GL_RASTERIZER_DISCARD);
+    else
+        glEnable(GL_RASTERIZER_DISCARD);
+}
 
 void KRScriptReset()
 {
@@ -60,6 +80,8 @@ void KRScriptReset()
     sStep = 0;
     sCounter = 0;
     sCursorVisible = 1;
+    sPresentCount = 0;
+    KRScriptDrawEveryStep();
 }
 
 void KRScriptHoldKey(unsigned char key, int firstStep, int lastStep)
@@ -101,6 +123,36 @@ void KRScriptSetScreenSize(int width, int height)
 void KRScriptSetPresentHook(void (*hook)(int step))
 {
     sPresentHook = hook;
+}
+
+void KRScriptDrawEveryStep()
+{
+    sDrawEveryStep = true;
+    sDrawnSteps.clear();
+    ApplyDrawing();
+}
+
+void KRScriptDrawNoStep()
+{
+    sDrawEveryStep = false;
+    sDrawnSteps.clear();
+    ApplyDrawing();
+}
+
+void KRScriptDrawStep(int step)
+{
+    sDrawnSteps.insert(step);
+    ApplyDrawing();
+}
+
+int KRScriptStepDrawn(int step)
+{
+    return sDrawEveryStep || sDrawnSteps.count(step) != 0;
+}
+
+int KRScriptFrameDrawn()
+{
+    return sPresentCount > 0 ? sPresentedDrawn : KRScriptStepDrawn(sStep);
 }
 
 int KRScriptGetStep()
@@ -255,10 +307,28 @@ static void ScriptedPumpEvents(KRWindowProc proc)
     if (sStep == sCloseStep)
         proc(KR_WM_DESTROY, 0);
     ++sStep;
+    ApplyDrawing();
+}
+
+static int ScriptedCreateGLContext()
+{
+    if (!gKRPlatformSDL.CreateGLContext())
+        return 0;
+    sHaveContext = true;
+    ApplyDrawing();
+    return 1;
+}
+
+static void ScriptedDeleteGLContext()
+{
+    sHaveContext = false;
+    gKRPlatformSDL.DeleteGLContext();
 }
 
 static void ScriptedPresent()
 {
+    sPresentedDrawn = KRScriptStepDrawn(sStep);
+    ++sPresentCount;
     if (sPresentHook)
         sPresentHook(sStep);
     gKRPlatformSDL.Present();
@@ -321,8 +391,8 @@ const KRPlatform gKRPlatformScripted = {
     gKRPlatformSDL.GetWindowHandle,
     ScriptedPumpEvents,
     gKRPlatformSDL.DestroyWindow,
-    gKRPlatformSDL.CreateGLContext,
-    gKRPlatformSDL.DeleteGLContext,
+    ScriptedCreateGLContext,
+    ScriptedDeleteGLContext,
     ScriptedPresent,
     ScriptedGetKeyboardState,
     ScriptedGetCursorPos,

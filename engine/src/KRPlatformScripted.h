@@ -22,6 +22,18 @@ void KRScriptActivateAt(int step, int active);   // the pump at the end of this 
 void KRScriptSetScreenSize(int width, int height);
 void KRScriptSetPresentHook(void (*hook)(int step)); // called at each present, before the buffers swap
 
+// Which steps' frames are drawn. Every one, as a player sees them (the default, and after a reset), or only those
+// asked for: the frames of the other steps go through the whole loop and every OpenGL call, but their clears and
+// triangles are discarded before they become pixels (GL_RASTERIZER_DISCARD), so a run that looks only at the
+// game's variables costs no shading. Takes effect at once: a step asked for before its frame starts is drawn.
+void KRScriptDrawEveryStep();
+void KRScriptDrawNoStep();
+void KRScriptDrawStep(int step);     // this step's frame too
+int KRScriptStepDrawn(int step);
+// Whether the picture in the back buffer was drawn: that of the frame last presented (during the present hook,
+// the frame being presented); before the first present, whether the step under way is drawn.
+int KRScriptFrameDrawn();
+
 // Reads a script text, one command per line, '#' starts a comment:
 //   key <name> <first>[-<last>]   hold a key (A, 7, F1, Return, Escape, Space, LButton, RButton, Shift, Control,
 //                                  Minus, or a number such as 0x70)

@@ -1,7 +1,6 @@
 // The credits: a level that walks itself to the exit or the closing fade, with a pause menu and hearts that cost
 // nothing.
-#include "KRPlatformScripted.h"
-#include "LevelRun.h"
+#include "LevelScenes.h"
 #include "TestEnv.h"
 
 #include "credits_internal.h"
@@ -148,25 +147,15 @@ TEST_F(Credits, KeyZeroRestartsTheWalk)
     EXPECT_LT(Vars().sPlayer->posCurr.x, before - 100.0f) << "the character is back at its start";
 }
 
-namespace {
-std::map<int, std::string> sShots;
-void Shoot(int step)
-{
-    auto it = sShots.find(step);
-    if (it != sShots.end())
-        SaveScreenshot(TestOutputDir() + "/" + it->second, 800, 600);
-}
-} // namespace
 
 TEST_F(Credits, TheWalkIsSavedForLooking)
 {
-    sShots = {{150, "credits-walk.png"}};
     LevelRun run(GS_CREDITS, ReadFileText(std::string(getenv("QUILLON_SOURCE_DIR")) + "/assets/Credits.txt"),
                  "screen 800 600\n");
-    KRScriptSetPresentHook(Shoot);
+    ShootAtSteps({{150, "credits-walk.png"}});
     run.Steps(155);
-    KRScriptSetPresentHook(nullptr);
-    EXPECT_FALSE(ReadFileText(TestOutputDir() + "/credits-walk.png").empty());
+    StopShooting();
+    EXPECT_FALSE(ReadFileText(ShotPath("credits-walk.png")).empty());
 }
 
 TEST_F(Credits, WinningTheLastLevelLeadsToTheCreditsAndTheCreditsToTheLevelSelection)

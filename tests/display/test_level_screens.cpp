@@ -1,7 +1,6 @@
 // Pictures of a running level, saved for a person to look at: the start, a flip in progress, the turned-over
 // world, and the pause menu.
-#include "KRPlatformScripted.h"
-#include "LevelRun.h"
+#include "LevelScenes.h"
 #include "TestEnv.h"
 
 #include "gameobjkinds.h"
@@ -12,15 +11,6 @@
 #include <map>
 
 namespace {
-
-std::map<int, std::string> sShots;
-
-void ShootAtPresent(int step)
-{
-    auto it = sShots.find(step);
-    if (it != sShots.end())
-        SaveScreenshot(TestOutputDir() + "/" + it->second, 800, 600);
-}
 
 std::string Room()
 {
@@ -33,25 +23,26 @@ std::string Room()
 
 TEST(LevelScreens, StartFlipAndTurnedWorldAreSavedForLooking)
 {
-    sShots = {{20, "level-start.png"}, {75, "level-flip-in-progress.png"}, {160, "level-turned-over.png"}};
+    const std::map<int, std::string> shots = {
+        {20, "level-start.png"}, {75, "level-flip-in-progress.png"}, {160, "level-turned-over.png"}};
     LevelRun run(GS_LEVEL_2, Room(), "screen 800 600\ncursor 600 200 0\nkey LButton 70\n");
-    KRScriptSetPresentHook(ShootAtPresent);
+    ShootAtSteps(shots);
     run.Steps(90);
     ASSERT_NE(run.Level(), nullptr);
     EXPECT_TRUE(gPlay.sGravityInverted);
     run.Steps(80);
-    KRScriptSetPresentHook(nullptr);
-    for (auto& shot : sShots)
-        EXPECT_FALSE(ReadFileText(TestOutputDir() + "/" + shot.second).empty()) << shot.second;
+    StopShooting();
+    for (auto& shot : shots)
+        EXPECT_FALSE(ReadFileText(ShotPath(shot.second)).empty()) << shot.second;
 }
 
 TEST(LevelScreens, PauseMenuIsSavedForLooking)
 {
-    sShots = {{40, "level-pause-menu.png"}};
     LevelRun run(GS_LEVEL_2, Room(), "screen 800 600\ncursor 500 150 0\nkey Escape 30\n");
-    KRScriptSetPresentHook(ShootAtPresent);
+    ShootAtSteps({{40, "level-pause-menu.png"}});
     run.Steps(45);
-    KRScriptSetPresentHook(nullptr);
+    StopShooting();
+    EXPECT_FALSE(ReadFileText(ShotPath("level-pause-menu.png")).empty());
     ASSERT_NE(run.Level(), nullptr);
     EXPECT_TRUE(run.Vars().sPaused);
 }

@@ -64,6 +64,8 @@ void RunSplash(const std::string& script, size_t limit = 1000)
 {
     sFrames.clear();
     StartGameScripted(GS_SPLASH, ("screen 800 600\n" + script).c_str());
+    if (sShotStep >= 0)
+        KRScriptDrawStep(sShotStep);
     KRScriptSetPresentHook(RecordFrame);
     while (sFrames.size() < limit && GameLoopStep())
         if (sFrames.back().state == GS_MENU)

@@ -90,9 +90,9 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     ASSERT_FALSE(e.state.empty()) << "the script names no # expect-state";
     ASSERT_GT(e.lastStep, 0) << "the script has no close";
 
-    // A small screen for speed, a probe at every step, and a picture every 20 steps of the last 400 (a winning
-    // script closes a few seconds after the win): the last one before the level is won is kept as the level's
-    // picture near its exit.
+    // A small screen, only the frames of the pictures drawn (for speed), a probe at every step, and a picture every
+    // 20 steps of the last 400 (a winning script closes a few seconds after the win): the last one before the level
+    // is won is kept as the level's picture near its exit.
     const std::string dir = MakeTempDir("level-replay");
     std::string full = "screen 320 240\n" + script;
     for (int step = 0; step <= e.lastStep; step++)
@@ -108,7 +108,7 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     WriteFileText(saves + "/States.txt", "000000\n0\n0");
 
     const std::string command = "cd '" + SourceDir() + "' && '" QUILLON_REPLAY_BINARY "' --state " +
-                                e.state + " --script '" + dir + "/script.txt' --documents '" + documents +
+                                e.state + " --draw shots --script '" + dir + "/script.txt' --documents '" + documents +
                                 "' </dev/null >'" + dir + "/out.txt' 2>'" + dir + "/err.txt'";
     const int raw = std::system(command.c_str());
     ASSERT_TRUE(WIFEXITED(raw) && WEXITSTATUS(raw) == 0) << ReadFileText(dir + "/err.txt");

@@ -163,6 +163,42 @@ TEST(ReplayTool, AShotSavesTheFramePresentedAtItsStepAsAPng)
     EXPECT_LT(BrightestInPng(dir + "/first.png", 0, 0, 800, 600, &width, &height), 8) << "alpha 0.01 at step 0";
 }
 
+TEST(ReplayTool, DrawingOnlyTheShotsGivesTheSamePicturesAndProbesAsDrawingEveryFrame)
+{
+    // A level with the torch swinging, a walk, a jump and a flip: the frames between shots are skipped, and each
+    // shot is still its frame to the byte, so nothing a picture shows is carried over from frames before it.
+    const std::string script = "cursor 600 100 0\ncursor 200 500 45\nkey D 0-120\nkey Space 20\nkey LButton 50\n"
+                               "probe 30\nprobe 90\nprobe 119\nclose 120\n";
+    std::string shots[2];
+    ReplayRun runs[2];
+    for (int i = 0; i < 2; ++i)
+    {
+        const std::string dir = MakeTempDir("replay-draw");
+        shots[i] = dir;
+        runs[i] = RunReplay(script + "shot 30 " + dir + "/a.png\nshot 90 " + dir + "/b.png\nshot 119 " + dir +
+                                "/c.png\n",
+                            i == 0 ? "--state GS_LEVEL_0" : "--state GS_LEVEL_0 --draw shots");
+        EXPECT_EQ(runs[i].status, 0) << runs[i].err;
+    }
+    ASSERT_EQ(runs[0].probes.size(), 3u) << runs[0].err;
+    EXPECT_EQ(runs[1].probes, runs[0].probes);
+    for (const char* name : {"/a.png", "/b.png", "/c.png"})
+    {
+        const std::string every = ReadFileText(shots[0] + name);
+        int width = 0, height = 0;
+        EXPECT_GT(BrightestInPng(shots[0] + name, 0, 0, 800, 600, &width, &height), 100) << name << " shows the level";
+        EXPECT_FALSE(every.empty()) << name;
+        EXPECT_TRUE(every == ReadFileText(shots[1] + name)) << name << " differs when only the shots are drawn";
+    }
+}
+
+TEST(ReplayTool, TheDrawOptionIsAllOrShots)
+{
+    ReplayRun run = RunReplay("close 3\n", "--draw some");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_TRUE(Contains(run.err, "--draw wants all or shots, not some")) << run.err;
+}
+
 TEST(ReplayTool, AShotPathIsTakenFromTheFolderTheToolStartedIn)
 {
     std::string dir = MakeTempDir("replay-cwd");

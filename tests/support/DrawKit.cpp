@@ -3,6 +3,7 @@
 
 #include "KRPlatformScripted.h"
 #include "KRSystem.h"
+#include "TestEnv.h"
 
 #include <GL/glew.h>
 #include <gtest/gtest.h>
@@ -62,6 +63,8 @@ bool WritePng(const std::string& path, int width, int height, const std::vector<
 std::vector<u32> ReadRegion(int x, int y, int width, int height)
 {
     std::vector<unsigned char> rgba((size_t)width * height * 4);
+    if (!FrameWasDrawn("ReadRegion"))
+        return std::vector<u32>((size_t)width * height, 0);
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glReadBuffer(GL_BACK);
     glReadPixels(x, y, width, height, GL_RGBA, GL_UNSIGNED_BYTE, rgba.data());

@@ -25,7 +25,8 @@ KRGfxVertexList* MakeRectMesh(float halfWidth, float halfHeight, u32 color);
 // Writes a PNG of 0xAARRGGBB pixels, top row first.
 bool WritePng(const std::string& path, int width, int height, const std::vector<u32>& pixels);
 
-// Reads a rectangle of the back buffer (origin bottom left) as 0xAARRGGBB, bottom row first.
+// Reads a rectangle of the back buffer (origin bottom left) as 0xAARRGGBB, bottom row first; zeros, and the test
+// fails, when the frame was not drawn.
 std::vector<u32> ReadRegion(int x, int y, int width, int height);
 
 // Red, green or blue of a 0xAARRGGBB pixel.

@@ -155,6 +155,7 @@ std::string DriveProbeValue(const char* name)
 void DriveScreenshot(const std::string& name)
 {
     sShotPath = TestOutputDir() + "/" + name;
+    KRScriptDrawStep(KRScriptGetStep());
     DriveFrames(1);
     EXPECT_TRUE(sShotPath.empty()) << "the frame was presented and saved";
 }

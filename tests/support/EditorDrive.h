@@ -40,5 +40,5 @@ std::vector<GameObjInst*> DriveLevelObjects();
 std::string DriveProbe();
 std::string DriveProbeValue(const char* name);
 
-// Writes the next drawn frame to the test output folder: runs one frame.
+// Draws the next frame and writes it to the test output folder: runs one frame.
 void DriveScreenshot(const std::string& name);

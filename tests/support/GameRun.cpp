@@ -11,7 +11,13 @@ void StartGameScripted(int32_t firstState, const char* script)
     KRPlatformUse(&gKRPlatformScripted);
     KRScriptReset();
     ASSERT_EQ(KRScriptParse(script), 1) << "the script could not be read";
+    KRScriptDrawNoStep();
     GameStartUp(firstState);
+}
+
+void DrawEveryFrame()
+{
+    KRScriptDrawEveryStep();
 }
 
 void RunGameScripted(int32_t firstState, const char* script)

@@ -70,6 +70,8 @@ void ShootAtSteps(const std::map<int, std::string>& shots, int width, int height
     sShots = shots;
     sShotWidth = width;
     sShotHeight = height;
+    for (const auto& shot : shots)
+        KRScriptDrawStep(shot.first);
     KRScriptSetPresentHook(ShootAtPresent);
 }
 
@@ -87,6 +89,7 @@ std::string ShotPath(const std::string& name)
 void SamplePixelEachStep(int viewX, int viewY)
 {
     sSamples.clear();
+    KRScriptDrawEveryStep();
     sSampleX = (int)std::lround(viewX * 0.4);
     sSampleY = (int)std::lround((600 - viewY) * 0.4);
     KRScriptSetPresentHook(SampleAtPresent);

@@ -22,13 +22,13 @@ std::string CursorLine(int viewX, int viewY, int step);
 
 // Saves a screenshot of the client area into the test output folder at the present of each listed step, after
 // the run has started (its start resets the back-end): 800 by 600 when the script says "screen 800 600", 320 by
-// 240 on LevelRun's own small screen. Stop forgets the list and the hook.
+// 240 on LevelRun's own small screen. Those steps' frames are drawn. Stop forgets the list and the hook.
 void ShootAtSteps(const std::map<int, std::string>& shots, int width = 800, int height = 600);
 void StopShooting();
 // The full path of a saved picture, for checking that it was written.
 std::string ShotPath(const std::string& name);
 
-// Samples one pixel of the picture presented at every step, at a place of the 800 by 600 view drawn on LevelRun's
+// Draws every frame from now on and samples one pixel of the picture presented at every step, at a place of the 800 by 600 view drawn on LevelRun's
 // 320 by 240 screen; the brightness (red + green + blue, 0 to 765) of a step's sample, or -1 when none was taken.
 void SamplePixelEachStep(int viewX, int viewY);
 int SampledBrightness(int step);

@@ -109,6 +109,7 @@ void ScreenshotAtStep(int step, const std::string& fileName)
 {
     sShotStep = step;
     sShotName = fileName;
+    KRScriptDrawStep(step);
     KRScriptSetPresentHook(ShotHook);
 }
 

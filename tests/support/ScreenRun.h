@@ -32,7 +32,8 @@ std::string ProbeValue(const std::string& key);
 GameObjInst* LiveOfKind(u32 kind, int nth = 0);
 int CountLive(u32 kind);
 
-// A screenshot of the frame presented at that step, into the test output folder under the name given.
+// A screenshot of the frame presented at that step (which is drawn), into the test output folder under the name
+// given.
 void ScreenshotAtStep(int step, const std::string& fileName);
 
 // Asks for GS_QUIT and runs the loop to its end.

@@ -1,12 +1,14 @@
 // TestEnv.cpp -- private folders, screenshots and file helpers for the tests.
 #include "TestEnv.h"
 
+#include "KRPlatformScripted.h"
 #include "replayframe.h"
 
 #include <GL/glew.h>
 #include <cstdlib>
 #include <dirent.h>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,14 +53,27 @@ void PointHomeAt(const std::string& folder)
     unsetenv("XDG_DOCUMENTS_DIR");
 }
 
+bool FrameWasDrawn(const char* reader)
+{
+    if (KRScriptFrameDrawn())
+        return true;
+    ADD_FAILURE() << reader << " reads a frame that was not drawn: a game run draws only the frames a test asks for "
+                  << "(DrawEveryFrame, or a screenshot or sampling helper, once the run has started)";
+    return false;
+}
+
 bool SaveScreenshot(const std::string& path, int width, int height)
 {
+    if (!FrameWasDrawn("a screenshot"))
+        return false;
     // The replay tool's shots and the tests' screenshots are made the same way.
     return ReplaySaveFramePng(path, width, height);
 }
 
 unsigned int ReadPixel(int x, int y)
 {
+    if (!FrameWasDrawn("ReadPixel"))
+        return 0;
     unsigned char rgba[4] = {0, 0, 0, 0};
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glReadBuffer(GL_BACK);

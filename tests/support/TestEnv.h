@@ -15,11 +15,16 @@ void LinkAssetsInto(const std::string& assets, const std::string& folder);
 // Points HOME at the folder and forgets any XDG documents setting, so that the save folder lies under it.
 void PointHomeAt(const std::string& folder);
 
+// Whether the picture in the back buffer was drawn (see DrawEveryFrame in GameRun.h); when it was not, the calling
+// test fails with a message that names what read it. Every helper that reads the frame asks this first.
+bool FrameWasDrawn(const char* reader);
+
 // Writes the client area of the current OpenGL window, as drawn by the last frame, to a PNG file.
-// Call it before the buffers swap (a present hook) or after drawing into the back buffer.
+// Call it before the buffers swap (a present hook) or after drawing into the back buffer. False, and the test
+// fails, when that frame was not drawn.
 bool SaveScreenshot(const std::string& path, int width, int height);
 
-// Reads one pixel of the back buffer (origin at the bottom left) as 0xAARRGGBB.
+// Reads one pixel of the back buffer (origin at the bottom left) as 0xAARRGGBB; 0 when the frame was not drawn.
 unsigned int ReadPixel(int x, int y);
 
 std::string ReadFileText(const std::string& path);

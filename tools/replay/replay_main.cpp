@@ -2,7 +2,10 @@
 // player, printing probe lines and saving shots at the steps the script asks for.
 //
 //   quillon-replay --script FILE [--state GS_NAME] [--assets DIR] [--documents DIR] [--user-level NAME]
-//                  [--attributes B,H]
+//                  [--attributes B,H] [--draw all|shots]
+//
+// --draw shots draws only the frames the script saves as shots: the others run through the whole loop and OpenGL
+// but shade nothing (see KRScriptDrawNoStep), for runs that want the probes quickly.
 //
 // Ends at the script's close or when the game reaches GS_QUIT, with status 0. A script or an option it cannot
 // read ends it at once with status 2 and a message on standard error.
@@ -45,11 +48,12 @@ struct ReplayOptions
     bool hasAttributes = false;
     int battery = 0;
     int health = 0;
+    bool drawOnlyShots = false;
 };
 
 const char* const kUsage =
     "usage: quillon-replay --script FILE [--state GS_NAME] [--assets DIR] [--documents DIR]\n"
-    "                      [--user-level NAME] [--attributes B,H]\n";
+    "                      [--user-level NAME] [--attributes B,H] [--draw all|shots]\n";
 
 ReplayScript sScript;
 std::string sShotFailures;
@@ -91,7 +95,7 @@ int ReadOptions(int argc, char** argv, ReplayOptions* pOptions)
             std::exit(0);
         }
         if (option != "--state" && option != "--script" && option != "--assets" && option != "--documents" &&
-            option != "--user-level" && option != "--attributes")
+            option != "--user-level" && option != "--attributes" && option != "--draw")
             return Fail("unknown option " + option + "\n" + kUsage);
         if (i + 1 >= argc || argv[i + 1][0] == 0)
             return Fail(option + " needs a value\n" + kUsage);
@@ -110,6 +114,12 @@ int ReadOptions(int argc, char** argv, ReplayOptions* pOptions)
             pOptions->assets = value;
         else if (option == "--documents")
             pOptions->documents = value;
+        else if (option == "--draw")
+        {
+            if (value != "all" && value != "shots")
+                return Fail("--draw wants all or shots, not " + value);
+            pOptions->drawOnlyShots = value == "shots";
+        }
         else if (option == "--user-level")
         {
             if (!ValidUserLevelName(value))
@@ -188,6 +198,12 @@ int main(int argc, char** argv)
     std::string error;
     if (!ReplayScriptRead(text.str(), &sScript, &error))
         return Fail("cannot read the script " + options.script + ": " + error);
+    if (options.drawOnlyShots)
+    {
+        KRScriptDrawNoStep();
+        for (const ReplayShot& shot : sScript.shots)
+            KRScriptDrawStep(shot.step);
+    }
     // Shots and the documents folder are named from where the tool was started, not from the assets folder.
     for (ReplayShot& shot : sScript.shots)
         shot.path = ToolAbsolutePath(shot.path);
