@@ -90,11 +90,11 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     ASSERT_FALSE(e.state.empty()) << "the script names no # expect-state";
     ASSERT_GT(e.lastStep, 0) << "the script has no close";
 
-    // A small screen, only the frames of the pictures drawn (for speed), a probe at every step, and a picture every
-    // 20 steps of the last 400 (a winning script closes a few seconds after the win): the last one before the level
-    // is won is kept as the level's picture near its exit.
+    // The script's own screen (800 by 600, a window to watch it in), only the frames of the pictures drawn (for
+    // speed), a probe at every step, and a picture every 20 steps of the last 400 (a winning script closes a few
+    // seconds after the win): the last one before the level is won is kept as the level's picture near its exit.
     const std::string dir = MakeTempDir("level-replay");
-    std::string full = "screen 320 240\n" + script;
+    std::string full = script;
     for (int step = 0; step <= e.lastStep; step++)
         full += "probe " + std::to_string(step) + "\n";
     if (e.won)
