@@ -116,7 +116,8 @@ if [ "$status" != "0" ]; then
   exit 1
 fi
 summary="$(grep -E "^[0-9]+% tests passed, [0-9]+ tests failed out of [0-9]+" build/make-check.log | tail -n 1)"
-labels="$(sed -n '/^Label Time Summary:/,/^$/p' build/make-check.log | awk 'NF>1 {print $1}' | sort | tr '\n' ' ')"
+labels="$(sed -n '/^Label Time Summary:/,/^$/p' build/make-check.log | grep -oE '^[a-z.]+ +=' | awk '{print $1}' |
+  sort | tr '\n' ' ')"
 if [[ "$summary" != "100% tests passed, 0 tests failed"* ]] || [ "$labels" != "display unit " ]; then
   echo "make check did not end with a full pass of the unit and display tests alone (\"$summary\"; labels: $labels)" >&2
   exit 1
