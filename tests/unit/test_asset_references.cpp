@@ -1,10 +1,11 @@
 // Every picture and sound the game's code names by file is in assets/MANIFEST.tsv, so nothing the game reads can
 // be missing: the code of every state, as it lands, is read for quoted file names.
+#include "Pattern.h"
+
 #include <cstdlib>
 #include <dirent.h>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -27,7 +28,6 @@ void CollectNames(const std::string& dir, std::set<std::string>* pNames)
     DIR* folder = opendir(dir.c_str());
     if (!folder)
         return;
-    static const std::regex quoted("\"([^\"\\\\]+\\.(png|ogg|wav))\"", std::regex::icase);
     while (dirent* entry = readdir(folder))
     {
         std::string file = entry->d_name;
@@ -44,8 +44,8 @@ void CollectNames(const std::string& dir, std::set<std::string>* pNames)
         std::stringstream text;
         text << in.rdbuf();
         std::string source = text.str();
-        for (std::sregex_iterator it(source.begin(), source.end(), quoted), end; it != end; ++it)
-            pNames->insert((*it)[1]);
+        for (const std::string& name : FirstGroups(source, "\"([^\"\\\\]+\\.(png|ogg|wav))\"", true))
+            pNames->insert(name);
     }
     closedir(folder);
 }

@@ -1,11 +1,11 @@
 // The instance pool: creating, destroying, the bound on kinds, a full pool and slot reuse.
 #include "ChildProcess.h"
+#include "Pattern.h"
 #include "gameobj.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <regex>
 #include <vector>
 
 namespace {
@@ -123,9 +123,8 @@ TEST(GameObjPool, CreatingAKindEqualToTheBoundStopsWithTheAssertionAndStatusOne)
     ResetLevelPool();
     ChildResult result = RunInChild([] { Create(LEVEL_GAME_OBJ_NUM); });
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_TRUE(std::regex_match(
-        result.out,
-        std::regex("KR_ASSERT_PARM: type < sGameObjNum\nLine: [0-9]+\nFunc: gameObjInstCreate\nFile: .*gameobj.cpp\n")))
+    EXPECT_TRUE(MatchesWhole(
+        result.out, "KR_ASSERT_PARM: type < sGameObjNum\nLine: [0-9]+\nFunc: gameObjInstCreate\nFile: .*gameobj.cpp\n"))
         << result.out;
 }
 

@@ -1,6 +1,7 @@
 // Registering kinds without a context: what a missing mesh or texture reports, and which condition text goes with
 // which kind.
 #include "ChildProcess.h"
+#include "Pattern.h"
 #include "gameobj.h"
 #include "gameobjmesh.h"
 #include "gameobjshapes.h"
@@ -8,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <string>
 
 namespace {
@@ -29,9 +29,8 @@ TEST(KindRegistration, AMissingMeshStopsTheProgramReportingTheConditionTheLoadAn
     ChildResult result =
         RunInChild([] { GameObjRegister(&sPool, TYPE_WALL, nullptr, GAME_OBJ_CHECK, "GameStateLevel_0Load"); });
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_TRUE(std::regex_match(result.out, std::regex("KR_ASSERT_MESG: pObj->pMesh\nLine: [0-9]+\nFunc: "
-                                                        "GameStateLevel_0Load\nFile: .*\nMesg: fail to create "
-                                                        "object!!\n")))
+    EXPECT_TRUE(MatchesWhole(result.out, "KR_ASSERT_MESG: pObj->pMesh\nLine: [0-9]+\nFunc: "
+                                         "GameStateLevel_0Load\nFile: .*\nMesg: fail to create object!!\n"))
         << result.out;
 }
 
@@ -65,9 +64,8 @@ TEST(KindRegistration, ATextureThatCantBeMadeStopsTheProgramWithTheNameItReports
         GameTexturesLoad(rows, 1, "GameStateEditorLoad");
     });
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_TRUE(std::regex_match(result.out, std::regex("KR_ASSERT_MESG: horiTEX\nLine: [0-9]+\nFunc: "
-                                                        "GameStateEditorLoad\nFile: .*\nMesg: Failed to create "
-                                                        "texture1!!\n")))
+    EXPECT_TRUE(MatchesWhole(result.out, "KR_ASSERT_MESG: horiTEX\nLine: [0-9]+\nFunc: "
+                                         "GameStateEditorLoad\nFile: .*\nMesg: Failed to create texture1!!\n"))
         << result.out;
 }
 

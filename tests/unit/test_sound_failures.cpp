@@ -1,10 +1,10 @@
 // What stops the process in the sound wrapper, and what does not: a missing file stops it with the check's text,
 // the source file and line and status 1; a machine without any audio device runs on in silence.
 #include "ChildProcess.h"
+#include "Pattern.h"
 #include "SoundFixture.h"
 
 #include <gtest/gtest.h>
-#include <regex>
 #include <unistd.h>
 
 namespace {
@@ -18,7 +18,7 @@ void ExpectReport(const ChildResult& result, const char* check, const char* func
     EXPECT_EQ(result.exitCode, 1);
     std::string pattern = std::string("KR_ASSERT_MESG: ") + check + "\nLine: [0-9]+\nFunc: " + function +
                           "\nFile: .*src/sound/" + file + "\nMesg: .*\n";
-    EXPECT_TRUE(std::regex_match(result.out, std::regex(pattern))) << result.out;
+    EXPECT_TRUE(MatchesWhole(result.out, pattern)) << result.out;
 }
 
 const char* const kSilentLine = "Sound: no audio device, the game runs without sound\n";
