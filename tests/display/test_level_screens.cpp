@@ -1,5 +1,7 @@
 // Pictures of a running level, saved for a person to look at: the start, a flip in progress, the turned-over
 // world, and the pause menu.
+#include "DrawKit.h"
+#include "GameRun.h"
 #include "LevelScenes.h"
 #include "TestEnv.h"
 
@@ -7,6 +9,9 @@
 #include "gamestatelist.h"
 #include "playcommon.h"
 
+#include <GL/glew.h>
+#include <algorithm>
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -45,4 +50,20 @@ TEST(LevelScreens, PauseMenuIsSavedForLooking)
     EXPECT_FALSE(ReadFileText(ShotPath("level-pause-menu.png")).empty());
     ASSERT_NE(run.Level(), nullptr);
     EXPECT_TRUE(run.Vars().sPaused);
+}
+
+TEST(LevelScreens, AFrameNobodyAskedForIsNotDrawnAndReadingItFailsTheTest)
+{
+    LevelRun run(GS_LEVEL_2, Room(), "screen 800 600\ncursor 600 200 0\n");
+    run.Steps(20);
+    EXPECT_TRUE(glIsEnabled(GL_RASTERIZER_DISCARD)) << "a test's game run starts with the rasterizer off";
+    EXPECT_NONFATAL_FAILURE(ReadPixel(400, 300), "reads a frame that was not drawn");
+
+    DrawEveryFrame();
+    EXPECT_FALSE(glIsEnabled(GL_RASTERIZER_DISCARD));
+    run.Steps(1);
+    int brightest = 0;
+    for (u32 pixel : ReadRegion(0, 0, 800, 600))
+        brightest = std::max({brightest, Red(pixel), Green(pixel), Blue(pixel)});
+    EXPECT_GT(brightest, 100) << "the drawn frame shows the lit room";
 }

@@ -111,3 +111,46 @@ TEST(Script, KeyNames)
     EXPECT_EQ(KRScriptKeyFromName("0x70"), 0x70);
     EXPECT_EQ(KRScriptKeyFromName("?"), -1);
 }
+
+TEST(Script, EveryStepIsDrawnAfterAReset)
+{
+    KRScriptReset();
+    KRScriptDrawNoStep();
+    KRScriptReset();
+    EXPECT_TRUE(KRScriptStepDrawn(0));
+    EXPECT_TRUE(KRScriptStepDrawn(500));
+    EXPECT_TRUE(KRScriptFrameDrawn());
+}
+
+TEST(Script, OnlyTheStepsAskedForAreDrawnAfterDrawNoStep)
+{
+    KRScriptReset();
+    KRScriptDrawNoStep();
+    KRScriptDrawStep(5);
+    KRScriptDrawStep(9);
+    EXPECT_FALSE(KRScriptStepDrawn(0));
+    EXPECT_TRUE(KRScriptStepDrawn(5));
+    EXPECT_FALSE(KRScriptStepDrawn(6));
+    EXPECT_TRUE(KRScriptStepDrawn(9));
+    KRScriptDrawEveryStep();
+    EXPECT_TRUE(KRScriptStepDrawn(6));
+    KRScriptDrawNoStep();
+    EXPECT_FALSE(KRScriptStepDrawn(5)) << "no step forgets the steps asked for before";
+}
+
+TEST(Script, TheFrameInTheBackBufferIsThatOfTheLastPresent)
+{
+    KRScriptReset();
+    KRScriptDrawNoStep();
+    KRScriptDrawStep(1);
+    EXPECT_FALSE(KRScriptFrameDrawn()) << "before any present: the step under way, 0, is not drawn";
+    gKRPlatformScripted.Present(); // step 0's frame
+    gKRPlatformScripted.PumpEvents(RecordMessage);
+    EXPECT_FALSE(KRScriptFrameDrawn()) << "step 1 has begun, but the back buffer still holds step 0's frame";
+    gKRPlatformScripted.Present(); // step 1's frame
+    EXPECT_TRUE(KRScriptFrameDrawn());
+    gKRPlatformScripted.PumpEvents(RecordMessage);
+    EXPECT_TRUE(KRScriptFrameDrawn()) << "until the next present";
+    gKRPlatformScripted.Present(); // step 2's frame
+    EXPECT_FALSE(KRScriptFrameDrawn());
+}
