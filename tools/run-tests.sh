@@ -23,11 +23,14 @@ mode="full"
 [ "${1:-}" = "--check" ] && mode="check"
 
 export SDL_AUDIODRIVER=dummy
+# No session bus: SDL's screen saver inhibition finds none at once instead of forking dbus-launch in every test.
+export DBUS_SESSION_BUS_ADDRESS="disabled:"
 # The fast unwinder on malloc: the slow one deadlocks in libgcc's unwinder when the software renderer registers the
-# frames of code it has just compiled (a malloc under the unwinder's own lock), so it serves the planted leak test
-# alone (tests/leak/).
-export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:allow_user_segv_handler=1"
-export LSAN_OPTIONS="suppressions=$root/tests/lsan.supp:print_suppressions=0:use_tls=0"
+# frames of code it has just compiled (a malloc under the unwinder's own lock). No interception of __tls_get_addr:
+# this glibc allocates dynamic thread-local storage with malloc, so the leak checker reaches it through the heap, and
+# the checker's own guess at those blocks' bounds is wrong for some addresses and crashes it (docs/testing.md).
+export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:allow_user_segv_handler=1:intercept_tls_get_addr=0"
+export LSAN_OPTIONS="suppressions=$root/tests/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 
 # Runs its arguments on the test display: a private virtual X server, or the current display when asked.

@@ -10,6 +10,8 @@ Filters are applied in the frequency domain with each biquad's complex response;
 silence first, so nothing wraps round. Agrees with ffmpeg's ebur128 filter to about 0.1 LU.
 Read by: build.py (mastering, the loudness report) and check.py (the targets).
 """
+import functools
+
 import numpy as np
 
 
@@ -39,16 +41,25 @@ def _response(coeffs, n, fs):
     return (b[0] + b[1] * z + b[2] * z * z) / (a[0] + a[1] * z + a[2] * z * z)
 
 
+@functools.lru_cache(maxsize=16)
+def _weighting(m, fs, speaker):
+    """The whole pre-filter's response on an m-point transform: the mastering measures many sounds of the same
+    padded length, so each is worked out once."""
+    h = _response(_shelf(fs), m, fs) * _response(_highpass(fs, 38.13547087613982, 0.5003270373253953), m, fs)
+    if speaker:
+        hp = _response(_highpass(fs, 200.0, 0.7071), m, fs)
+        h = h * hp * hp
+    h.setflags(write=False)
+    return h
+
+
 def _filtered(sig, fs, speaker):
     """K-weighted channels (and high-passed at 200 Hz, twice, when speaker is set), silence-padded."""
     sig = np.atleast_2d(np.asarray(sig, dtype=np.float64))
     n = sig.shape[1]
     pad = int(0.5 * fs)
     m = 1 << int(np.ceil(np.log2(n + pad)))
-    h = _response(_shelf(fs), m, fs) * _response(_highpass(fs, 38.13547087613982, 0.5003270373253953), m, fs)
-    if speaker:
-        hp = _response(_highpass(fs, 200.0, 0.7071), m, fs)
-        h = h * hp * hp
+    h = _weighting(m, fs, speaker)
     out = np.empty((sig.shape[0], n))
     for i, ch in enumerate(sig):
         out[i] = np.fft.irfft(np.fft.rfft(ch, m) * h, m)[:n]
