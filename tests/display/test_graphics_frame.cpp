@@ -22,7 +22,7 @@ void DrawRect(float x, float y, float halfWidth, float halfHeight, u32 color)
     KRGfxMeshFree(pMesh);
 }
 
-void BeginColourFrame()
+void StartColourFrame()
 {
     KRGfxStart();
     KRGfxSetBlendMode(KR_GFX_BM_NONE);
@@ -46,7 +46,7 @@ std::vector<float> UniformOf(u32 programIndex, const char* name, int count)
     return values;
 }
 
-std::vector<int> Viewport()
+std::vector<int> FrameViewport()
 {
     std::vector<int> viewport(4, 0);
     glGetIntegerv(GL_VIEWPORT, viewport.data());
@@ -218,7 +218,7 @@ TEST(GraphicsFrame, TexturedQuadOfKnownHalfSizeLandsOnTheExpectedPixelsBeforeAnd
 TEST(GraphicsFrame, WorldYGrowsUpward)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     DrawRect(0.0f, 200.0f, 10.0f, 10.0f, 0xFF00FF00u);
     EXPECT_EQ(Rgb(ReadPixel(400, 500)), 0x00FF00u) << "200 above the centre is 200 rows above the middle";
     EXPECT_EQ(Rgb(ReadPixel(400, 100)), 0u);
@@ -229,7 +229,7 @@ TEST(GraphicsFrame, WorldYGrowsUpward)
 TEST(GraphicsFrame, CameraSetAfterTheFirstRenderModeMovesTheLimitsAtOnceButThePictureOnlyAtTheNextModeChange)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetCamPosition(100.0f, 0.0f);
     EXPECT_EQ(KRGfxGetWinMinX(), -300.0f) << "the limits follow at once";
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0xFFFF0000u);
@@ -247,7 +247,7 @@ TEST(GraphicsFrame, CameraSetAfterTheFirstRenderModeMovesTheLimitsAtOnceButThePi
     EXPECT_EQ(Rgb(ReadPixel(400, 200)), 0u);
     KRGfxEnd();
 
-    BeginColourFrame();
+    StartColourFrame();
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0xFFFFFFFFu);
     EXPECT_EQ(Rgb(ReadPixel(300, 300)), 0xFFFFFFu) << "the next frame sees the camera from its first mode";
     KRGfxEnd();
@@ -258,12 +258,12 @@ TEST(GraphicsFrame, AFrameWithoutRenderModeClearsAndPresentsNothingAtTheSmallVie
 {
     StartGraphicsFullScreen(1920, 1080);
     KRGfxSetBackgroundColor(0.0f, 0.0f, 1.0f);
-    BeginColourFrame();
+    StartColourFrame();
     DrawRect(0.0f, 0.0f, 100.0f, 100.0f, 0xFFFF0000u);
     KRGfxEnd();
 
     KRGfxStart();
-    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 800, 600})) << "the logical size, although full screen";
+    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 800, 600})) << "the logical size, although full screen";
     std::vector<u32> screen = ReadRegion(0, 0, 1920, 1080);
     int others = 0;
     for (u32 pixel : screen)
@@ -277,7 +277,7 @@ TEST(GraphicsFrame, AFrameWithoutRenderModeClearsAndPresentsNothingAtTheSmallVie
 TEST(GraphicsFrame, SettingTheSameRenderModeTwiceCostsNothingAndLeavesTheMatrices)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     std::vector<float> view = UniformOf(1, "uVMatrix", 16);
     std::vector<float> projection = UniformOf(1, "uPMatrix", 16);
     glViewport(0, 0, 10, 10);
@@ -285,7 +285,7 @@ TEST(GraphicsFrame, SettingTheSameRenderModeTwiceCostsNothingAndLeavesTheMatrice
     KRGfxSetRenderMode(KR_GFX_RM_COLOR);
     EXPECT_EQ(UniformOf(1, "uVMatrix", 16), view);
     EXPECT_EQ(UniformOf(1, "uPMatrix", 16), projection);
-    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 10, 10})) << "no viewport was set";
+    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 10, 10})) << "no viewport was set";
     KRGfxEnd();
     KRSysExit();
 }
@@ -295,7 +295,7 @@ TEST(GraphicsFrame, ProjectionAndViewAreTheOrthographicViewAndTheCameraLookingDo
     StartGraphicsWindowed();
     PresentEmptyFrame();
     KRGfxSetCamPosition(10.0f, 20.0f);
-    BeginColourFrame();
+    StartColourFrame();
     std::vector<float> p = UniformOf(1, "uPMatrix", 16);
     std::vector<float> v = UniformOf(1, "uVMatrix", 16);
     // Column-major as OpenGL holds them.
@@ -318,8 +318,8 @@ TEST(GraphicsFrame, FullScreenViewIsStretchedByTheScalesAfterTheCamerasTranslati
 {
     StartGraphicsFullScreen(1920, 1080);
     KRGfxSetCamPosition(10.0f, 20.0f);
-    BeginColourFrame();
-    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 1920, 1080}));
+    StartColourFrame();
+    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 1920, 1080}));
     std::vector<float> p = UniformOf(1, "uPMatrix", 16);
     std::vector<float> v = UniformOf(1, "uVMatrix", 16);
     EXPECT_FLOAT_EQ(p[0], 2.0f / 1920.0f);
@@ -341,7 +341,7 @@ TEST(GraphicsFrame, FullScreenStretchesTheSamePictureOverTheWholeScreen)
     KRGfxSetCamPosition(30.0f, -20.0f);
     PresentEmptyFrame();
     auto drawScene = [&]() {
-        BeginColourFrame();
+        StartColourFrame();
         DrawRect(-250.0f, 150.0f, 60.0f, 40.0f, 0xFFFF8000u);
         DrawRect(300.0f, -200.0f, 50.0f, 50.0f, 0xFF00A0FFu);
         KRGfxSetRenderMode(KR_GFX_RM_TEXTURE);
@@ -395,7 +395,7 @@ TEST(GraphicsFrame, BlendModeNoneWritesTheSourceColourWhateverItsAlpha)
 {
     StartGraphicsWindowed();
     KRGfxSetBackgroundColor(0.25f, 0.25f, 0.25f);
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetBlendMode(KR_GFX_BM_NONE);
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0x80FFFFFFu);
     EXPECT_EQ(Rgb(ReadPixel(400, 300)), 0xFFFFFFu);
@@ -408,7 +408,7 @@ TEST(GraphicsFrame, BlendModeBlendMixesTheSourceOverTheFrameByItsAlpha)
 {
     StartGraphicsWindowed();
     KRGfxSetBackgroundColor(0.25f, 0.25f, 0.25f);
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetBlendMode(KR_GFX_BM_BLEND);
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0x80FFFFFFu);
     u32 pixel = ReadPixel(400, 300);
@@ -424,7 +424,7 @@ TEST(GraphicsFrame, BlendModeAddAddsTheSourceTimesItsAlphaToTheFrame)
 {
     StartGraphicsWindowed();
     KRGfxSetBackgroundColor(0.25f, 0.25f, 0.25f);
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetBlendMode(KR_GFX_BM_ADD);
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0x80FFFFFFu);
     u32 pixel = ReadPixel(400, 300);
@@ -459,7 +459,7 @@ TEST(GraphicsFrame, TransparencyZeroWithBlendingMakesAnObjectInvisibleWhileItIsS
 {
     StartGraphicsWindowed();
     KRGfxSetBackgroundColor(0.0f, 0.0f, 0.5f);
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetBlendMode(KR_GFX_BM_BLEND);
     KRGfxSetTransparency(0.0f);
     GLuint query = 0;
@@ -503,7 +503,7 @@ TEST(GraphicsFrame, TintAlphaHalfHalvesTheAlphaAsTransparencyHalfDoesAndBothToge
 TEST(GraphicsFrame, TintMultipliesEachColourChannel)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetTintColor(0.5f, 1.0f, 0.0f, 1.0f);
     DrawRect(0.0f, 0.0f, 10.0f, 10.0f, 0xFFFFFFFFu);
     u32 pixel = ReadPixel(400, 300);
@@ -517,7 +517,7 @@ TEST(GraphicsFrame, TintMultipliesEachColourChannel)
 TEST(GraphicsFrame, BlendColourMixesTowardItsColourByItsOwnAlphaBeforeTheTint)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxSetBlendColor(0.0f, 0.0f, 1.0f, 0.5f);
     DrawRect(-100.0f, 0.0f, 10.0f, 10.0f, 0xFFFF0000u);
     KRGfxSetTintColor(1.0f, 1.0f, 0.5f, 1.0f);
@@ -572,7 +572,7 @@ TEST(GraphicsFrame, WorldMatricesAreUploadedInOpenGLColumnOrder)
 TEST(GraphicsFrame, ATransformScalesAndMovesTheMesh)
 {
     StartGraphicsWindowed();
-    BeginColourFrame();
+    StartColourFrame();
     KRGfxVertexList* pMesh = MakeRectMesh(10.0f, 10.0f, 0xFFFFFFFFu);
     KRMtx33 scale, move, both;
     KRMtx33Scale(&scale, 3.0f, 2.0f);

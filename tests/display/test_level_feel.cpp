@@ -11,7 +11,7 @@
 namespace {
 
 // A floor of five platforms from x = -200 to 200, top at y = -30, and the character above its middle.
-std::string Floor(std::initializer_list<LevelObject> more = {})
+std::string FeelFloor(std::initializer_list<LevelObject> more = {})
 {
     std::string text = LevelText({{3, -200, -40}, {3, -100, -40}, {3, 0, -40}, {3, 100, -40}, {3, 200, -40},
                                   {8, 0, 0}});
@@ -24,7 +24,7 @@ std::string Floor(std::initializer_list<LevelObject> more = {})
 
 TEST(LevelFeel, StandingStillOnAPlatformIsStableForSixHundredFrames)
 {
-    LevelRun run(GS_LEVEL_1, Floor());
+    LevelRun run(GS_LEVEL_1, FeelFloor());
     run.Steps(30);
     ASSERT_NE(run.Level(), nullptr);
     const float restY = run.Player()->posCurr.y;
@@ -46,7 +46,7 @@ TEST(LevelFeel, WalkingOffALedgeFallsWithTheGroundSpeed)
 {
     // Nothing in the collision clears the ground flag when the floor ends under the character: it falls with the
     // ground rule's gravity and keeps the assigned walking speed while D is held.
-    LevelRun run(GS_LEVEL_1, Floor());
+    LevelRun run(GS_LEVEL_1, FeelFloor());
     run.Steps(20);
     run.Hold('D', 200);
     float edgeY = 0.0f;
@@ -94,7 +94,7 @@ TEST(LevelFeel, AWallStopsTheCharacterWhoCanJumpAlongIt)
 {
     // A wall standing on the floor at x = 100, from -30 to 70. Walking into it, the character is pushed one unit
     // clear every other frame: blocked, the walk key is ignored for a frame and the block clears again.
-    LevelRun run(GS_LEVEL_1, Floor({{2, 100, 20}}));
+    LevelRun run(GS_LEVEL_1, FeelFloor({{2, 100, 20}}));
     run.Steps(20);
     run.Hold('D', 200);
     int blocked = 0;

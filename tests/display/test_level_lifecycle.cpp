@@ -19,7 +19,7 @@ namespace {
 const float kDt = 1.0f / 60.0f;
 
 // A floor from -200 to 200 with its top at -30, and the character above its middle.
-std::string Floor(std::vector<LevelObject> more = {})
+std::string LifecycleFloor(std::vector<LevelObject> more = {})
 {
     std::vector<LevelObject> objects = PlatformRow(-200, 5, -40);
     objects.push_back({8, 0, 0});
@@ -66,7 +66,7 @@ TEST(LevelLifecycle, InitCreatesTheBackgroundTheFileTheViewObjectsAndTheCursorIn
 
 TEST(LevelLifecycle, WhilePausedPositionsTimersBatteryHeartsAndTheCooldownStandStill)
 {
-    LevelRun run(GS_LEVEL_2, Floor());
+    LevelRun run(GS_LEVEL_2, LifecycleFloor());
     run.Steps(20);
     run.Hold('D', 200);
     run.Step();
@@ -103,7 +103,7 @@ TEST(LevelLifecycle, WhilePausedPositionsTimersBatteryHeartsAndTheCooldownStandS
 
 TEST(LevelLifecycle, WhilePausedThePauseObjectsKeepFollowingTheCamera)
 {
-    LevelRun run(GS_LEVEL_2, Floor());
+    LevelRun run(GS_LEVEL_2, LifecycleFloor());
     run.Steps(10);
     run.Hold(27);
     run.Step();
@@ -120,7 +120,7 @@ TEST(LevelLifecycle, WhilePausedThePauseObjectsKeepFollowingTheCamera)
 
 TEST(LevelLifecycle, TheUserLevelKeepsItsEndTimerOverARestartAndThenLeavesAtOnce)
 {
-    LevelRun run(GS_LEVEL_USER, Floor());
+    LevelRun run(GS_LEVEL_USER, LifecycleFloor());
     run.Steps(10);
     run.Vars().sEndTimer = 3.5f;
     run.Hold('0');
@@ -135,7 +135,7 @@ TEST(LevelLifecycle, TheUserLevelKeepsItsEndTimerOverARestartAndThenLeavesAtOnce
 
 TEST(LevelLifecycle, TheOtherLevelsResetTheEndTimerAndWaitThreeSecondsAfterALoss)
 {
-    LevelRun run(GS_LEVEL_2, Floor());
+    LevelRun run(GS_LEVEL_2, LifecycleFloor());
     run.Steps(10);
     run.Vars().sEndTimer = 3.5f;
     run.Hold('0');
@@ -151,7 +151,7 @@ TEST(LevelLifecycle, TheOtherLevelsResetTheEndTimerAndWaitThreeSecondsAfterALoss
 
 TEST(LevelLifecycle, ARestartInTheSecondLevelKeepsTheInvincibilityUntilItsResetTimerRunsOut)
 {
-    LevelRun run(GS_LEVEL_2, Floor());
+    LevelRun run(GS_LEVEL_2, LifecycleFloor());
     run.Steps(10);
     run.Vars().sInvincible = 1;
     run.Vars().sInvincibleTimer = 0.5f;
@@ -168,7 +168,7 @@ TEST(LevelLifecycle, ARestartInTheSecondLevelKeepsTheInvincibilityUntilItsResetT
 
 TEST(LevelLifecycle, ARestartInTheFirstLevelResetsTheInvincibilityAndTheBlink)
 {
-    LevelRun run(GS_LEVEL_0, Floor());
+    LevelRun run(GS_LEVEL_0, LifecycleFloor());
     run.Steps(10);
     run.Vars().sInvincible = 1;
     run.Vars().sInvincibleTimer = 0.5f;
@@ -184,7 +184,7 @@ TEST(LevelLifecycle, TheGroundFlagCarriesOverFromOneLevelToTheNextAndGravityIsRe
 {
     // The second level's file holds only a character in the air: nothing there touches the flag in its first
     // frame, so the ground rules of the flag left by the first level decide its first vertical speed.
-    LevelRun run(GS_LEVEL_1, Floor());
+    LevelRun run(GS_LEVEL_1, LifecycleFloor());
     run.Steps(10);
     ASSERT_TRUE(gPlay.sOnGround);
     run.Hold(1);
@@ -206,7 +206,7 @@ TEST(LevelLifecycle, TheGroundFlagCarriesOverFromOneLevelToTheNextAndGravityIsRe
 TEST(LevelLifecycle, AFileWithTwoCharactersLeavesTheFirstStandingUndrivenAndUntouchable)
 {
     // The first character hangs in the air at the height of the second's body, in its way.
-    LevelRun run(GS_LEVEL_2, Floor({{8, -100, 10}, {8, 100, 0}}));
+    LevelRun run(GS_LEVEL_2, LifecycleFloor({{8, -100, 10}, {8, 100, 0}}));
     run.Steps(20);
     ASSERT_NE(run.Level(), nullptr);
     std::vector<GameObjInst*> characters = run.OfKind(TYPE_CHARACTER);
@@ -222,7 +222,7 @@ TEST(LevelLifecycle, AFileWithTwoCharactersLeavesTheFirstStandingUndrivenAndUnto
 
 TEST(LevelLifecycle, ADestroyedInstanceWithAVelocityGoesOnMovingUnseen)
 {
-    LevelRun run(GS_LEVEL_2, Floor({{3, 600, 300}}));
+    LevelRun run(GS_LEVEL_2, LifecycleFloor({{3, 600, 300}}));
     run.Steps(5);
     std::vector<GameObjInst*> platforms = run.OfKind(TYPE_PLATFORM);
     GameObjInst* pGone = platforms.back();
@@ -239,7 +239,7 @@ TEST(LevelLifecycle, ARestartRebuildsThePoolAndStartsTheBatteryAndHitPointsOverW
 {
     gAttrBattery = 2;
     gAttrHealth = 1;
-    LevelRun run(GS_LEVEL_3, Floor({{3, 600, 300}}));
+    LevelRun run(GS_LEVEL_3, LifecycleFloor({{3, 600, 300}}));
     run.Step();
     const int live = LiveCount(run);
     EXPECT_EQ(run.Vars().sHitPoints, 4);
@@ -267,7 +267,7 @@ TEST(LevelLifecycle, ARestartRebuildsThePoolAndStartsTheBatteryAndHitPointsOverW
 
 TEST(LevelLifecycle, KeyZeroDoesNothingInALevelWithoutTheRestart)
 {
-    LevelRun run(GS_LEVEL_1, Floor());
+    LevelRun run(GS_LEVEL_1, LifecycleFloor());
     run.Steps(30);
     const float used = run.Vars().sBatteryUsed;
     run.Hold('0');
@@ -279,7 +279,7 @@ TEST(LevelLifecycle, KeyZeroDoesNothingInALevelWithoutTheRestart)
 
 TEST(LevelLifecycle, KeyZeroAndALossLeavingInTheSameFrameTheLaterWriteWins)
 {
-    LevelRun run(GS_LEVEL_2, Floor());
+    LevelRun run(GS_LEVEL_2, LifecycleFloor());
     run.Steps(10);
     run.Vars().sHitPoints = 0;
     run.Vars().sEndTimer = 3.5f;

@@ -15,7 +15,7 @@
 
 namespace {
 
-int Number(const char* key)
+int NameNumber(const char* key)
 {
     return (int)ProbeNumber(key);
 }
@@ -33,10 +33,10 @@ TEST(LevelSelectionName, TypingAOrDInTheFieldAlsoMovesTheSelectionAndReturnActsO
     ScreenStart(GS_LS, FocusScript() + Key("D", 20) + Key("A", 22) + Key("D", 24) + Key("Return", 26));
     ScreenStepsTo(20);
     EXPECT_STREQ(gUserLevelName, "d");
-    EXPECT_EQ(Number("sLSSelection"), 1);
+    EXPECT_EQ(NameNumber("sLSSelection"), 1);
     ScreenStepsTo(24);
     EXPECT_STREQ(gUserLevelName, "dad");
-    EXPECT_EQ(Number("sLSSelection"), 1);
+    EXPECT_EQ(NameNumber("sLSSelection"), 1);
     ScreenStepsTo(26);
     EXPECT_EQ(gGameStateCurr, GS_LEVEL_1) << "Return acted on the selected item, not on the name";
     ScreenFinishBeforeNextVisit();
@@ -55,7 +55,7 @@ TEST(LevelSelectionName, TheTwentiethCharacterIsRefusedYetBackspaceWorks)
     ScreenStepsTo(20 + 2 * 19);
     EXPECT_EQ(std::string(gUserLevelName), "1234567890123456789") << "the 20th key";
     EXPECT_EQ(CountLive(TYPE_NAME_GLYPH), 19);
-    EXPECT_EQ(Number("sNameLength"), 19);
+    EXPECT_EQ(NameNumber("sNameLength"), 19);
     ScreenStepsTo(70);
     EXPECT_EQ(std::string(gUserLevelName), "123456789012345678");
     EXPECT_EQ(CountLive(TYPE_NAME_GLYPH), 18);
@@ -120,7 +120,7 @@ TEST(LevelSelectionName, ATypedNameThatExistsEntersTheUserLevel)
     ScreenStepsTo(26);
     EXPECT_STREQ(gUserLevelName, "tomb");
     ScreenStepsTo(35);
-    EXPECT_EQ(Number("sLSFadeAction"), 5);
+    EXPECT_EQ(NameNumber("sLSFadeAction"), 5);
     ScreenStepsWhileIn(GS_LS, 300);
     EXPECT_EQ(gGameStateCurr, GS_LEVEL_USER);
     ScreenFinishBeforeNextVisit();
@@ -138,7 +138,7 @@ TEST(LevelSelectionName, AMissingFileShowsTheMessageOnceForEachClickOnOneSpot)
     ScreenStepsTo(39);
     EXPECT_EQ(CountLive(TYPE_TEXT_GLYPH), 1 + 3 * message) << "three copies";
     EXPECT_EQ(gGameStateCurr, GS_LS);
-    EXPECT_NE(Number("sLSFadeAction"), 5);
+    EXPECT_NE(NameNumber("sLSFadeAction"), 5);
     // The copies lie on one another: three glyphs on each place of the message.
     int onFirstPlace = 0;
     for (int i = 0; LiveOfKind(TYPE_TEXT_GLYPH, i); i++)

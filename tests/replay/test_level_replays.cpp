@@ -17,7 +17,7 @@ namespace {
 
 const int kShotEvery = 20;
 
-std::string SourceDir()
+std::string ReplaysSourceDir()
 {
     const char* dir = std::getenv("QUILLON_SOURCE_DIR");
     return dir ? dir : "..";
@@ -107,7 +107,7 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     std::system(("mkdir -p '" + saves + "'").c_str());
     WriteFileText(saves + "/States.txt", "000000\n0\n0");
 
-    const std::string command = "cd '" + SourceDir() + "' && '" QUILLON_REPLAY_BINARY "' --state " +
+    const std::string command = "cd '" + ReplaysSourceDir() + "' && '" QUILLON_REPLAY_BINARY "' --state " +
                                 e.state + " --draw shots --script '" + dir + "/script.txt' --documents '" + documents +
                                 "' </dev/null >'" + dir + "/out.txt' 2>'" + dir + "/err.txt'";
     const int raw = std::system(command.c_str());

@@ -11,7 +11,7 @@
 
 namespace {
 
-std::string SourceDir()
+std::string ShotSourceDir()
 {
     const char* dir = std::getenv("QUILLON_SOURCE_DIR");
     return dir ? dir : ".";
@@ -19,7 +19,7 @@ std::string SourceDir()
 
 int RunLevelShot(const std::string& args, const std::string& errPath)
 {
-    std::string command = "cd '" + SourceDir() + "' && '" QUILLON_LEVELSHOT_BINARY "' " + args +
+    std::string command = "cd '" + ShotSourceDir() + "' && '" QUILLON_LEVELSHOT_BINARY "' " + args +
                           " </dev/null >/dev/null 2>'" + errPath + "'";
     int raw = std::system(command.c_str());
     return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;

@@ -18,19 +18,19 @@ class DropWalls : public HandPool
 {
 };
 
-const f32 kDt = 1.0f / 60.0f;
+const f32 kDropDt = 1.0f / 60.0f;
 
 TEST_F(DropWalls, ADropWallSinksUnderNormalGravityAndRisesUnderInverted)
 {
     GameObjInst* pD = DropWall(300.0f, 0.0f);
     GameObjInst* pC = Character(-300.0f, 0.0f);
-    DropWallsNormal(pC, mPool.get(), 10.0f, kDt);
-    EXPECT_FLOAT_EQ(pD->velCurr.y, -250.1f * kDt);
+    DropWallsNormal(pC, mPool.get(), 10.0f, kDropDt);
+    EXPECT_FLOAT_EQ(pD->velCurr.y, -250.1f * kDropDt);
 
     gPlay.sGravityInverted = 1;
     pD->velCurr.y = 0.0f;
-    DropWallsInverted(pC, mPool.get(), 10.0f, kDt);
-    EXPECT_FLOAT_EQ(pD->velCurr.y, 250.1f * kDt);
+    DropWallsInverted(pC, mPool.get(), 10.0f, kDropDt);
+    EXPECT_FLOAT_EQ(pD->velCurr.y, 250.1f * kDropDt);
 }
 
 TEST_F(DropWalls, DuringAFreezeBackToNormalGravityTheInvertedRoutineStillPullsDown)
@@ -39,8 +39,8 @@ TEST_F(DropWalls, DuringAFreezeBackToNormalGravityTheInvertedRoutineStillPullsDo
     GameObjInst* pD = DropWall(300.0f, 0.0f);
     GameObjInst* pC = Character(-300.0f, 0.0f);
     gPlay.sGravityInverted = 0;
-    DropWallsInverted(pC, mPool.get(), 10.0f, kDt);
-    EXPECT_FLOAT_EQ(pD->velCurr.y, -250.1f * kDt);
+    DropWallsInverted(pC, mPool.get(), 10.0f, kDropDt);
+    EXPECT_FLOAT_EQ(pD->velCurr.y, -250.1f * kDropDt);
 }
 
 TEST_F(DropWalls, ADropWallOnTopOfAnotherIsSetOnItAndTakesItsSpeed)
@@ -48,7 +48,7 @@ TEST_F(DropWalls, ADropWallOnTopOfAnotherIsSetOnItAndTakesItsSpeed)
     GameObjInst* pE = DropWall(0.0f, 99.0f); // walked first, 1 into the top of the lower one
     GameObjInst* pD = DropWall(0.0f, 0.0f, -30.0f);
     GameObjInst* pC = Character(-300.0f, 0.0f);
-    DropWallsNormal(pC, mPool.get(), 10.0f, kDt);
+    DropWallsNormal(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_FLOAT_EQ(pE->posCurr.y, 100.0f);
     EXPECT_FLOAT_EQ(pE->velCurr.y, pD->velCurr.y);
     EXPECT_FLOAT_EQ(pD->posCurr.y, 0.0f) << "the lower one is not moved by the upper";
@@ -60,7 +60,7 @@ TEST_F(DropWalls, InvertedStackingSetsTheLowerOneUnderTheUpper)
     GameObjInst* pE = DropWall(0.0f, -99.0f);
     GameObjInst* pD = DropWall(0.0f, 0.0f, 30.0f);
     GameObjInst* pC = Character(-300.0f, 0.0f);
-    DropWallsInverted(pC, mPool.get(), 10.0f, kDt);
+    DropWallsInverted(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_FLOAT_EQ(pE->posCurr.y, -100.0f);
     EXPECT_FLOAT_EQ(pE->velCurr.y, pD->velCurr.y);
 }
@@ -72,7 +72,7 @@ TEST_F(DropWalls, ADropWallPushesTheCharacterOneUnitClearAndEndsTheRoutine)
     GameObjInst* pC = Character(-16.0f, 0.0f, 80.0f, 0.0f);
     gPlay.sOnGround = 1;
     gPlay.sJumping = 1;
-    DropWallsNormal(pC, mPool.get(), 10.0f, kDt);
+    DropWallsNormal(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_NEAR(pC->posCurr.x + 50.0f / 6.0f, -11.0f, 1e-4f);
     EXPECT_FLOAT_EQ(pC->velCurr.x, 0.0f);
     EXPECT_FALSE(gPlay.sOnGround);
@@ -86,7 +86,7 @@ TEST_F(DropWalls, InvertedTheLeftPushIsFlush)
     gPlay.sGravityInverted = 1;
     DropWall(0.0f, 0.0f);
     GameObjInst* pC = Character(-16.0f, 0.0f, 80.0f, 0.0f);
-    DropWallsInverted(pC, mPool.get(), 10.0f, kDt);
+    DropWallsInverted(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_NEAR(pC->posCurr.x + 50.0f / 6.0f, -10.0f, 1e-4f);
     EXPECT_TRUE(gPlay.sWallBlocked);
 }
@@ -99,13 +99,13 @@ TEST_F(DropWalls, InvertedTheRightPushNeedsOnlyTheWallsRightEdge)
     GameObjInst* pC = Character(0.0f, 0.0f);
     pC->boundingBox.minX = -10.0f;
     pC->boundingBox.maxX = -10.0f + 50.0f / 3.0f;
-    DropWallsNormal(pC, mPool.get(), 10.0f, kDt);
+    DropWallsNormal(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_FLOAT_EQ(pC->posCurr.x, 0.0f);
     EXPECT_FALSE(gPlay.sWallBlocked);
 
     gPlay.sGravityInverted = 1;
     pD->velCurr.y = 0.0f;
-    DropWallsInverted(pC, mPool.get(), 10.0f, kDt);
+    DropWallsInverted(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_FLOAT_EQ(pC->posCurr.x, 21.0f);
     EXPECT_TRUE(gPlay.sWallBlocked);
 }
@@ -190,13 +190,13 @@ TEST_F(DropWalls, TheDriverLandsEveryDropWallOnEveryPlatformWhateverTheirSlots)
     pP2->boundingBox = {125.0f, -10.0f, 275.0f, 10.0f};
     GameObjInst* pLast = DropWall(-180.0f, 59.0f, -30.0f);
     GameObjInst* pC = Character(-2000.0f, 0.0f);
-    CollisionPlayNormal(pC, mPool.get(), 10.0f, kDt);
+    CollisionPlayNormal(pC, mPool.get(), 10.0f, kDropDt);
     EXPECT_FLOAT_EQ(pFirst->posCurr.y, 60.0f);
     EXPECT_FLOAT_EQ(pMiddle->posCurr.y, 60.0f);
     EXPECT_FLOAT_EQ(pLast->posCurr.y, 60.0f);
     // The landing zeroed the speed; the drop-wall step after it gave each one frame of gravity.
-    EXPECT_FLOAT_EQ(pFirst->velCurr.y, -250.1f * kDt);
-    EXPECT_FLOAT_EQ(pLast->velCurr.y, -250.1f * kDt);
+    EXPECT_FLOAT_EQ(pFirst->velCurr.y, -250.1f * kDropDt);
+    EXPECT_FLOAT_EQ(pLast->velCurr.y, -250.1f * kDropDt);
 }
 
 } // namespace

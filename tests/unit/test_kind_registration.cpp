@@ -13,7 +13,7 @@
 
 namespace {
 
-GameObjPool sPool;
+GameObjPool sKindPool;
 
 const char* CheckOf(u32 kind)
 {
@@ -25,9 +25,9 @@ const char* CheckOf(u32 kind)
 
 TEST(KindRegistration, AMissingMeshStopsTheProgramReportingTheConditionTheLoadAndTheMessage)
 {
-    GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+    GameObjPoolReset(&sKindPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
     ChildResult result =
-        RunInChild([] { GameObjRegister(&sPool, TYPE_WALL, nullptr, GAME_OBJ_CHECK, "GameStateLevel_0Load"); });
+        RunInChild([] { GameObjRegister(&sKindPool, TYPE_WALL, nullptr, GAME_OBJ_CHECK, "GameStateLevel_0Load"); });
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(MatchesWhole(result.out, "KR_ASSERT_MESG: pObj->pMesh\nLine: [0-9]+\nFunc: "
                                          "GameStateLevel_0Load\nFile: .*\nMesg: fail to create object!!\n"))
@@ -47,12 +47,12 @@ TEST(KindRegistration, TheDarknessAndTheCursorReportAsTheTorchAndTheZoomPowerUpA
 
 TEST(KindRegistration, ARegisteredKindStoresItsNumberAndMeshInItsOwnEntry)
 {
-    GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
-    KRGfxVertexList* pFake = reinterpret_cast<KRGfxVertexList*>(&sPool); // never drawn nor freed here
-    GameObjRegister(&sPool, TYPE_EXIT_PORTAL, pFake, GAME_OBJ_CHECK, "GameStateLevel_0Load");
-    EXPECT_EQ(sPool.sGameObjList[TYPE_EXIT_PORTAL].type, (u32)TYPE_EXIT_PORTAL);
-    EXPECT_EQ(sPool.sGameObjList[TYPE_EXIT_PORTAL].pMesh, pFake);
-    EXPECT_EQ(sPool.sGameObjList[TYPE_EXIT_PORTAL - 1].pMesh, nullptr);
+    GameObjPoolReset(&sKindPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+    KRGfxVertexList* pFake = reinterpret_cast<KRGfxVertexList*>(&sKindPool); // never drawn nor freed here
+    GameObjRegister(&sKindPool, TYPE_EXIT_PORTAL, pFake, GAME_OBJ_CHECK, "GameStateLevel_0Load");
+    EXPECT_EQ(sKindPool.sGameObjList[TYPE_EXIT_PORTAL].type, (u32)TYPE_EXIT_PORTAL);
+    EXPECT_EQ(sKindPool.sGameObjList[TYPE_EXIT_PORTAL].pMesh, pFake);
+    EXPECT_EQ(sKindPool.sGameObjList[TYPE_EXIT_PORTAL - 1].pMesh, nullptr);
 }
 
 TEST(KindRegistration, ATextureThatCantBeMadeStopsTheProgramWithTheNameItReportsUnder)

@@ -16,19 +16,19 @@
 
 namespace {
 
-GameObjPool sPool;
+GameObjPool sFilePool;
 GameObjInst* sPlayer;
 
 // The six-argument create of a state, on the test's pool.
 GameObjInst* PoolCreate(u32 type, f32 scale, const KRVec2* pPos, const KRVec2* pVel, f32 dir, const KRVec2* pAux)
 {
-    return gameObjInstCreate(&sPool, type, scale, pPos, pVel, dir, pAux);
+    return gameObjInstCreate(&sFilePool, type, scale, pPos, pVel, dir, pAux);
 }
 
 std::vector<GameObjInst*> Live()
 {
     std::vector<GameObjInst*> live;
-    for (GameObjInst& inst : sPool.sGameObjInstList)
+    for (GameObjInst& inst : sFilePool.sGameObjInstList)
         if (inst.flag & FLAG_ACTIVE)
             live.push_back(&inst);
     return live;
@@ -36,7 +36,7 @@ std::vector<GameObjInst*> Live()
 
 u32 KindOf(const GameObjInst* pInst)
 {
-    return (u32)(pInst->pObject - sPool.sGameObjList);
+    return (u32)(pInst->pObject - sFilePool.sGameObjList);
 }
 
 bool FileExists(const std::string& path)
@@ -53,10 +53,10 @@ protected:
         mHome = MakeTempDir("levelfile");
         ASSERT_FALSE(mHome.empty());
         PointHomeAt(mHome);
-        GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+        GameObjPoolReset(&sFilePool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
         // What a level registers of the world kinds; kind 21 stays unregistered here.
         for (u32 kind : {2u, 3u, 4u, 6u, 8u, 9u, 10u, 12u, 20u, 27u, 32u})
-            sPool.sGameObjList[kind].type = kind;
+            sFilePool.sGameObjList[kind].type = kind;
         sPlayer = nullptr;
     }
 
@@ -110,11 +110,11 @@ TEST_F(LevelFile, OneCompleteRecordWithoutAFinalLineEndGivesOneObject)
 
 TEST_F(LevelFile, EveryObjectReadIsAtRestWithDirectionZeroAndAZeroAuxVector)
 {
-    sPool.sGameObjInstList[0].velCurr = {9.0f, 9.0f};
-    sPool.sGameObjInstList[0].vecAux = {9.0f, 9.0f};
-    sPool.sGameObjInstList[0].dirCurr = 9.0f;
+    sFilePool.sGameObjInstList[0].velCurr = {9.0f, 9.0f};
+    sFilePool.sGameObjInstList[0].vecAux = {9.0f, 9.0f};
+    sFilePool.sGameObjInstList[0].dirCurr = 9.0f;
     ReadText("2\n10\n20\n");
-    const GameObjInst& inst = sPool.sGameObjInstList[0];
+    const GameObjInst& inst = sFilePool.sGameObjInstList[0];
     EXPECT_EQ(inst.velCurr.x, 0.0f);
     EXPECT_EQ(inst.velCurr.y, 0.0f);
     EXPECT_EQ(inst.vecAux.x, 0.0f);
@@ -155,12 +155,12 @@ TEST_F(LevelFile, ACrLfFileReadsLikeAnLfFile)
     const char* lf = "8\n-300\n150\n3\n0\n-90\n\n\n";
     const char* crlf = "8\r\n-300\r\n150\r\n3\r\n0\r\n-90\r\n\r\n\r\n";
     ReadText(lf);
-    std::vector<unsigned char> fromLf(sizeof(sPool.sGameObjInstList));
-    std::memcpy(fromLf.data(), sPool.sGameObjInstList, fromLf.size());
+    std::vector<unsigned char> fromLf(sizeof(sFilePool.sGameObjInstList));
+    std::memcpy(fromLf.data(), sFilePool.sGameObjInstList, fromLf.size());
 
-    GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+    GameObjPoolReset(&sFilePool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
     ReadText(crlf);
-    EXPECT_EQ(std::memcmp(fromLf.data(), sPool.sGameObjInstList, fromLf.size()), 0);
+    EXPECT_EQ(std::memcmp(fromLf.data(), sFilePool.sGameObjInstList, fromLf.size()), 0);
     EXPECT_EQ(Live().size(), 3u);
 }
 
@@ -183,7 +183,7 @@ TEST_F(LevelFile, TwoBlankLinesBehindTheLastRecordMakeAnObjectOfKindZeroAtTheOri
     ReadText("3\n10\n20\n\n\n");
     auto live = Live();
     ASSERT_EQ(live.size(), 2u) << "the extra pass supplies the y of a record of two blank lines";
-    EXPECT_EQ(live[1]->pObject, &sPool.sGameObjList[0]);
+    EXPECT_EQ(live[1]->pObject, &sFilePool.sGameObjList[0]);
     EXPECT_EQ(live[1]->posCurr.x, 0.0f);
     EXPECT_EQ(live[1]->posCurr.y, 0.0f);
     EXPECT_EQ(live[1]->scale, 1.0f);
@@ -194,7 +194,7 @@ TEST_F(LevelFile, AnUnregisteredKindBelowTheBoundLoadsWithAnEmptyTemplate)
     ReadText("21\n5\n6\n");
     auto live = Live();
     ASSERT_EQ(live.size(), 1u);
-    EXPECT_EQ(live[0]->pObject, &sPool.sGameObjList[21]);
+    EXPECT_EQ(live[0]->pObject, &sFilePool.sGameObjList[21]);
     EXPECT_EQ(live[0]->pObject->type, 0u);
     EXPECT_EQ(live[0]->pObject->pMesh, nullptr);
 }
@@ -203,7 +203,7 @@ TEST_F(LevelFile, KindThirtyTwoHasScaleFortyInALevelAndOneInTheMenuAndCredits)
 {
     ReadText("32\n0\n0\n");
     EXPECT_EQ(Live().at(0)->scale, 40.0f);
-    GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+    GameObjPoolReset(&sFilePool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
     ReadText("32\n0\n0\n", LEVEL_FILE_SCALES_SCENE);
     EXPECT_EQ(Live().at(0)->scale, 1.0f);
 }
@@ -287,8 +287,8 @@ TEST_F(LevelFile, ANegativeKindStopsTheProgramWithTheCreateAssertion)
 TEST_F(LevelFile, AFullPoolLosesTheRecordAndACharacterRecordLeavesThePointerNull)
 {
     for (int i = 0; i < GAME_OBJ_INST_NUM_MAX; i++)
-        gameObjInstCreate(&sPool, 3, 1.0f, nullptr, nullptr, 0.0f, nullptr);
-    sPlayer = &sPool.sGameObjInstList[0];
+        gameObjInstCreate(&sFilePool, 3, 1.0f, nullptr, nullptr, 0.0f, nullptr);
+    sPlayer = &sFilePool.sGameObjInstList[0];
     ReadText("8\n1\n2\n");
     EXPECT_EQ(sPlayer, nullptr);
     EXPECT_EQ(Live().size(), (size_t)GAME_OBJ_INST_NUM_MAX);
@@ -296,12 +296,12 @@ TEST_F(LevelFile, AFullPoolLosesTheRecordAndACharacterRecordLeavesThePointerNull
 
 TEST_F(LevelFile, ObjectsOfTheFileLieBetweenWhatWasCreatedBeforeAndAfter)
 {
-    GameObjInst* pBackground = gameObjInstCreate(&sPool, 13, 1.0f, nullptr, nullptr, 0.0f, nullptr);
+    GameObjInst* pBackground = gameObjInstCreate(&sFilePool, 13, 1.0f, nullptr, nullptr, 0.0f, nullptr);
     ReadText("3\n0\n0\n8\n0\n0\n");
-    GameObjInst* pHand = gameObjInstCreate(&sPool, 9, 15.0f, nullptr, nullptr, 0.0f, nullptr);
-    EXPECT_EQ(pBackground, &sPool.sGameObjInstList[0]);
-    EXPECT_EQ(sPlayer, &sPool.sGameObjInstList[2]);
-    EXPECT_EQ(pHand, &sPool.sGameObjInstList[3]);
+    GameObjInst* pHand = gameObjInstCreate(&sFilePool, 9, 15.0f, nullptr, nullptr, 0.0f, nullptr);
+    EXPECT_EQ(pBackground, &sFilePool.sGameObjInstList[0]);
+    EXPECT_EQ(sPlayer, &sFilePool.sGameObjInstList[2]);
+    EXPECT_EQ(pHand, &sFilePool.sGameObjInstList[3]);
 }
 
 TEST_F(LevelFile, TheUserLevelIsReadByItsNameFromTheSaveFolder)
@@ -331,7 +331,7 @@ namespace {
 GameObjInst* Place(u32 kind, f32 x, f32 y, u8 ui = 0, u8 held = 0)
 {
     KRVec2 pos = {x, y};
-    return gameObjInstCreate(&sPool, kind, 1.0f, &pos, nullptr, 0.0f, nullptr, held, ui, 0.0f, 0.0f);
+    return gameObjInstCreate(&sFilePool, kind, 1.0f, &pos, nullptr, 0.0f, nullptr, held, ui, 0.0f, 0.0f);
 }
 
 } // namespace
@@ -342,7 +342,7 @@ TEST_F(LevelFile, TheWriterWritesThreeLinesPerLevelObjectInSlotOrderPositionsCut
     Place(3, 47.5f, -47.5f);
     Place(2, -0.9f, 0.9f);
     std::string path = mHome + "/out.txt";
-    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sPool));
+    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sFilePool));
     EXPECT_EQ(ReadFileText(path), "8\n-300\n150\n3\n47\n-47\n2\n0\n0\n");
 }
 
@@ -357,7 +357,7 @@ TEST_F(LevelFile, TheWriterLeavesOutTheCursorTheHandFurnitureAndFreeSlots)
     gameObjInstDestroy(pGone);
     Place(21, 3.0f, 4.0f); // a kind without a template is written as the kind its template says
     std::string path = mHome + "/out.txt";
-    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sPool));
+    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sFilePool));
     EXPECT_EQ(ReadFileText(path), "8\n1\n2\n3\n9\n9\n0\n3\n4\n");
 }
 
@@ -366,7 +366,7 @@ TEST_F(LevelFile, AnEmptyLevelWritesAnEmptyFile)
     Place(13, 0.0f, 0.0f, 1);
     std::string path = mHome + "/out.txt";
     WriteFileText(path, "old content\n");
-    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sPool));
+    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sFilePool));
     EXPECT_EQ(ReadFileText(path), "");
 }
 
@@ -374,7 +374,7 @@ TEST_F(LevelFile, PositionsOutOfTheIntegerRangeAreWrittenAsTheLowestInteger)
 {
     Place(3, 3.0e9f, -3.0e9f);
     std::string path = mHome + "/out.txt";
-    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sPool));
+    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sFilePool));
     EXPECT_EQ(ReadFileText(path), "3\n-2147483648\n-2147483648\n");
 }
 
@@ -386,16 +386,16 @@ TEST_F(LevelFile, AReloadKeepsTheRelativeOrderAndClosesTheGaps)
     Place(32, 50.0f, 60.0f);
     gameObjInstDestroy(pGap);
     std::string path = mHome + "/out.txt";
-    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sPool));
+    ASSERT_TRUE(LevelFileWrite(path.c_str(), &sFilePool));
 
-    GameObjPoolReset(&sPool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
+    GameObjPoolReset(&sFilePool, GAME_OBJ_NUM_MAX, LEVEL_GAME_OBJ_NUM);
     ASSERT_TRUE(LevelFileRead(path.c_str(), PoolCreate, &sPlayer, LEVEL_FILE_SCALES_PLAY));
     auto live = Live();
     ASSERT_EQ(live.size(), 3u);
-    EXPECT_EQ(live[0], &sPool.sGameObjInstList[0]);
+    EXPECT_EQ(live[0], &sFilePool.sGameObjInstList[0]);
     EXPECT_EQ(KindOf(live[0]), 8u);
     EXPECT_EQ(KindOf(live[1]), 10u);
-    EXPECT_EQ(live[1], &sPool.sGameObjInstList[1]);
+    EXPECT_EQ(live[1], &sFilePool.sGameObjInstList[1]);
     EXPECT_EQ(live[1]->posCurr.y, -90.0f) << "what was written, not what was shown";
     EXPECT_EQ(live[1]->scale, 55.0f);
     EXPECT_EQ(KindOf(live[2]), 32u);
@@ -409,12 +409,12 @@ TEST_F(LevelFile, SavingTwiceUnderOneNameIntoAMissingFolderLeavesAFileOnlyAfterT
     Place(8, -300.0f, 150.0f);
     std::string file = SaveFolder() + "/Tomb.txt";
 
-    LevelFileSaveUser(&sPool);
+    LevelFileSaveUser(&sFilePool);
     EXPECT_FALSE(FileExists(file));
     struct stat info;
     EXPECT_EQ(stat(SaveFolder().c_str(), &info), 0) << "the first save makes the folders";
 
-    LevelFileSaveUser(&sPool);
+    LevelFileSaveUser(&sFilePool);
     EXPECT_TRUE(FileExists(file));
     EXPECT_EQ(ReadFileText(file), "8\n-300\n150\n");
 }
@@ -425,6 +425,6 @@ TEST_F(LevelFile, SavingOverAnExistingFileReplacesItsContent)
     ASSERT_EQ(system(("mkdir -p '" + SaveFolder() + "'").c_str()), 0);
     WriteFileText(SaveFolder() + "/Tomb.txt", "3\n1\n1\n3\n2\n2\n3\n3\n3\n");
     Place(2, 10.0f, 20.0f);
-    LevelFileSaveUser(&sPool);
+    LevelFileSaveUser(&sFilePool);
     EXPECT_EQ(ReadFileText(SaveFolder() + "/Tomb.txt"), "2\n10\n20\n");
 }

@@ -8,7 +8,7 @@
 namespace {
 
 const int16_t kTonePeak = 16000;
-const int kWindow = 4410; // a tenth of a second
+const int kMixWindow = 4410; // a tenth of a second
 // Ramps as long as 16-bit values allow, so that the loop seldom comes round while a test looks.
 const double kRampSeconds = 23.0;
 const int kRampLast = kRampBase + ((int)(kRampSeconds * kSoundTestRate) - 1) / kRampFramesPerStep;
@@ -27,7 +27,7 @@ class SoundMusicMix : public SoundFixture
     // may have run far ahead of the test while a call waited for the mixer's lock.
     std::vector<int16_t> ReadSince(int64_t first)
     {
-        int64_t end = DiskAudioMark(mMix) + kWindow;
+        int64_t end = DiskAudioMark(mMix) + kMixWindow;
         return DiskAudioRead(mMix, first, (int)(end - first));
     }
 };
@@ -38,8 +38,8 @@ TEST_F(SoundMusicMix, MusicStartedByPlayIsAudible)
 {
     MusicSetTrack(Keep(WriteToneFile(mDir, "tone.wav", 2.0, kTonePeak)));
     MusicPlay(0);
-    std::vector<int16_t> mix = DiskAudioNext(mMix, kWindow);
-    ASSERT_EQ((int)mix.size(), kWindow);
+    std::vector<int16_t> mix = DiskAudioNext(mMix, kMixWindow);
+    ASSERT_EQ((int)mix.size(), kMixWindow);
     EXPECT_GT(RmsOf(mix), 10000.0);
     EXPECT_EQ(PeakOf(mix), kTonePeak) << "a new play is at full level";
 }
@@ -58,9 +58,9 @@ TEST_F(SoundMusicMix, UpdateBringsTheFreshPlayToTheSharedVolume)
 {
     MusicSetTrack(Keep(WriteToneFile(mDir, "tone.wav", 2.0, kTonePeak)));
     MusicPlay(0);
-    EXPECT_EQ(PeakOf(DiskAudioNext(mMix, kWindow)), kTonePeak);
+    EXPECT_EQ(PeakOf(DiskAudioNext(mMix, kMixWindow)), kTonePeak);
     MusicUpdate();
-    EXPECT_EQ(PeakOf(DiskAudioNext(mMix, kWindow)), kTonePeak / 2);
+    EXPECT_EQ(PeakOf(DiskAudioNext(mMix, kMixWindow)), kTonePeak / 2);
 }
 
 TEST_F(SoundMusicMix, VolumeDownLowersTheMeasuredLevel)
@@ -68,9 +68,9 @@ TEST_F(SoundMusicMix, VolumeDownLowersTheMeasuredLevel)
     MusicSetTrack(Keep(WriteToneFile(mDir, "tone.wav", 2.0, kTonePeak)));
     MusicPlay(0);
     MusicUpdate();
-    int before = PeakOf(DiskAudioNext(mMix, kWindow));
+    int before = PeakOf(DiskAudioNext(mMix, kMixWindow));
     MusicVolumeDown();
-    int after = PeakOf(DiskAudioNext(mMix, kWindow));
+    int after = PeakOf(DiskAudioNext(mMix, kMixWindow));
     EXPECT_EQ(before, 8000);
     EXPECT_EQ(after, kTonePeak * 51 / 128) << "0.4 of full, in the mixer's 128 steps";
     EXPECT_LT(after, before);
@@ -81,11 +81,11 @@ TEST_F(SoundMusicMix, HalfVolumeHalvesTheLevelUntilTheNextUpdate)
     MusicSetTrack(Keep(WriteToneFile(mDir, "tone.wav", 2.0, kTonePeak)));
     MusicPlay(0);
     MusicUpdate();
-    int normal = PeakOf(DiskAudioNext(mMix, kWindow));
+    int normal = PeakOf(DiskAudioNext(mMix, kMixWindow));
     MusicUpdateHalfVolume();
-    int half = PeakOf(DiskAudioNext(mMix, kWindow));
+    int half = PeakOf(DiskAudioNext(mMix, kMixWindow));
     MusicUpdate();
-    int restored = PeakOf(DiskAudioNext(mMix, kWindow));
+    int restored = PeakOf(DiskAudioNext(mMix, kMixWindow));
     EXPECT_EQ(normal, 8000);
     EXPECT_EQ(half, normal / 2);
     EXPECT_EQ(restored, normal);
@@ -98,7 +98,7 @@ TEST_F(SoundMusicMix, TrackChangeRestartsFromTheBeginning)
     MusicSetTrack(first.c_str());
     MusicPlay(0);
     // A second of the first track goes by.
-    std::vector<int16_t> early = DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kWindow);
+    std::vector<int16_t> early = DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kMixWindow);
     ASSERT_FALSE(early.empty());
     EXPECT_GT(early[0], kRampBase + kSoundTestRate / kRampFramesPerStep);
 
@@ -120,7 +120,7 @@ TEST_F(SoundMusicMix, SetTrackOnThePlayingTrackStopsItAndOnlyPlayStartsItAgainFr
     std::string ramp = WriteRampFile(mDir, "rising.wav", kRampSeconds, 1);
     MusicSetTrack(ramp.c_str());
     MusicPlay(0);
-    DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kWindow); // a second goes by
+    DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kMixWindow); // a second goes by
 
     MusicSetTrack(ramp.c_str());
     EXPECT_TRUE(AllEqual(DiskAudioNext(mMix, kSoundTestRate), 0)) << "stopped: a second of silence";
@@ -140,7 +140,7 @@ TEST_F(SoundMusicMix, RestartOfALevelPlaysTheOpenStreamAgainFromItsStart)
     std::string ramp = WriteRampFile(mDir, "rising.wav", kRampSeconds, 1);
     MusicSetTrack(ramp.c_str());
     MusicPlay(0);
-    DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kWindow); // a second goes by
+    DiskAudioRead(mMix, DiskAudioMark(mMix) + kSoundTestRate, kMixWindow); // a second goes by
 
     // From the last frame surely mixed before the call: the new play may begin on the very next one.
     int64_t before = DiskAudioWritten(mMix) - 1;
@@ -180,8 +180,8 @@ TEST_F(SoundMusicMix, MusicGoesOnWithoutAnyUpdate)
     MusicSetTrack(Keep(WriteRampFile(mDir, "rising.wav", kRampSeconds, 1)));
     MusicPlay(0);
     MusicUpdate();
-    std::vector<int16_t> later = DiskAudioRead(mMix, DiskAudioMark(mMix) + 3 * kSoundTestRate, kWindow);
-    ASSERT_EQ((int)later.size(), kWindow);
+    std::vector<int16_t> later = DiskAudioRead(mMix, DiskAudioMark(mMix) + 3 * kSoundTestRate, kMixWindow);
+    ASSERT_EQ((int)later.size(), kMixWindow);
     EXPECT_GT(PeakOf(later), 0);
     // One continuous play: the ramp rises step by step, coming round at most once at the loop's end.
     int comingRound = 0;
