@@ -9,7 +9,7 @@ deps:
 	@tools/install-deps.sh run
 
 build: deps
-	@cmake -S . -B build/release -DCMAKE_BUILD_TYPE=Release -DQUILLON_TESTS=OFF >/dev/null
+	@cmake -S . -B build/release -DCMAKE_BUILD_TYPE=Release -DQUILLON_TESTS=OFF -DQUILLON_BENCH=OFF >/dev/null
 	@cmake --build build/release -j$(JOBS)
 
 run: build

@@ -2,7 +2,9 @@
 # `make run`, typed as the README gives it, in a clean copy of the sources on a desktop with a window manager: it
 # builds the game without warnings as errors, the window "Quillon" appears, and the window manager's close ends
 # make with status 0. Then the README's replay example, in the same copy with the replay tool that make run built
-# beside the game, prints the probe line the README shows.
+# beside the game, prints the probe line the README shows. Last, `make bench` in the same copy, with no display: it
+# builds the benchmarks beside the game make run has built (the same tree, so the game is not compiled again), prints
+# each one's table and ends with status 0.
 set -euo pipefail
 source "$(dirname "$0")/../e2e/lib/common.sh"
 on_private_server 1920x1080 "$@"
@@ -50,4 +52,19 @@ status=0
 [ "$status" = "0" ] || fail "the README's replay example ended with status $status"
 grep -qxF -- "$shown" "$E2E_OUT/readme-replay.log" ||
   fail "the README's replay example printed $(grep '^probe' "$E2E_OUT/readme-replay.log"), not $shown"
+
+game_built="$(stat -c %Y "$scratch/quillon/build/release/libquillon_game.a")"
+started=$(date +%s)
+status=0
+(cd "$scratch/quillon" && env -u DISPLAY make bench) >"$E2E_OUT/make-bench.log" 2>&1 </dev/null || status=$?
+echo "make bench took $(($(date +%s) - started)) s, status $status (its output: $E2E_OUT/make-bench.log)"
+[ "$status" = "0" ] || { tail -n 40 "$E2E_OUT/make-bench.log" >&2; fail "make bench ended with status $status"; }
+for bench in bench_editor_place_undo bench_frame_wait bench_level_frame; do
+  grep -q "^== $bench ==$" "$E2E_OUT/make-bench.log" || fail "make bench did not run $bench"
+done
+grep -q "^placing  *frames" "$E2E_OUT/make-bench.log" || fail "the editor benchmark printed no table"
+grep -qE "^0 +[0-9]+\.[0-9]+ +[0-9]+\.[0-9]+ " "$E2E_OUT/make-bench.log" || fail "the frame wait benchmark printed no row"
+grep -q "^Update + Draw + present " "$E2E_OUT/make-bench.log" || fail "the level frame benchmark printed no table"
+[ "$(stat -c %Y "$scratch/quillon/build/release/libquillon_game.a")" = "$game_built" ] ||
+  fail "make bench built the game again instead of using make run's"
 echo "PASS"
