@@ -11,16 +11,6 @@
 
 namespace {
 
-void BeginColourFrame()
-{
-    KRGfxStart();
-    KRGfxSetBlendMode(KR_GFX_BM_NONE);
-    KRGfxSetRenderMode(KR_GFX_RM_COLOR);
-    KRGfxSetTintColor(1.0f, 1.0f, 1.0f, 1.0f);
-    KRGfxSetTransparency(1.0f);
-    KRGfxSetPosition(0.0f, 0.0f);
-}
-
 int CountWhere(const std::vector<u32>& pixels, u32 rgb)
 {
     int count = 0;
@@ -35,13 +25,6 @@ int CountLit(const std::vector<u32>& pixels)
     for (u32 pixel : pixels)
         count += Rgb(pixel) != 0;
     return count;
-}
-
-std::vector<int> Viewport()
-{
-    std::vector<int> viewport(4, 0);
-    glGetIntegerv(GL_VIEWPORT, viewport.data());
-    return viewport;
 }
 
 std::vector<float> Uniform(const char* name, int count)

@@ -46,13 +46,6 @@ std::vector<float> UniformOf(u32 programIndex, const char* name, int count)
     return values;
 }
 
-std::vector<int> FrameViewport()
-{
-    std::vector<int> viewport(4, 0);
-    glGetIntegerv(GL_VIEWPORT, viewport.data());
-    return viewport;
-}
-
 } // namespace
 
 TEST(GraphicsFrame, InitBuildsTheColourAndTextureProgramsWithTheirNames)
@@ -263,7 +256,7 @@ TEST(GraphicsFrame, AFrameWithoutRenderModeClearsAndPresentsNothingAtTheSmallVie
     KRGfxEnd();
 
     KRGfxStart();
-    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 800, 600})) << "the logical size, although full screen";
+    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 800, 600})) << "the logical size, although full screen";
     std::vector<u32> screen = ReadRegion(0, 0, 1920, 1080);
     int others = 0;
     for (u32 pixel : screen)
@@ -285,7 +278,7 @@ TEST(GraphicsFrame, SettingTheSameRenderModeTwiceCostsNothingAndLeavesTheMatrice
     KRGfxSetRenderMode(KR_GFX_RM_COLOR);
     EXPECT_EQ(UniformOf(1, "uVMatrix", 16), view);
     EXPECT_EQ(UniformOf(1, "uPMatrix", 16), projection);
-    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 10, 10})) << "no viewport was set";
+    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 10, 10})) << "no viewport was set";
     KRGfxEnd();
     KRSysExit();
 }
@@ -319,7 +312,7 @@ TEST(GraphicsFrame, FullScreenViewIsStretchedByTheScalesAfterTheCamerasTranslati
     StartGraphicsFullScreen(1920, 1080);
     KRGfxSetCamPosition(10.0f, 20.0f);
     StartColourFrame();
-    EXPECT_EQ(FrameViewport(), std::vector<int>({0, 0, 1920, 1080}));
+    EXPECT_EQ(Viewport(), std::vector<int>({0, 0, 1920, 1080}));
     std::vector<float> p = UniformOf(1, "uPMatrix", 16);
     std::vector<float> v = UniformOf(1, "uVMatrix", 16);
     EXPECT_FLOAT_EQ(p[0], 2.0f / 1920.0f);

@@ -31,16 +31,6 @@ GLint BufferSize(u32 buffer)
     return size;
 }
 
-void BeginMeshColourFrame()
-{
-    KRGfxStart();
-    KRGfxSetBlendMode(KR_GFX_BM_NONE);
-    KRGfxSetRenderMode(KR_GFX_RM_COLOR);
-    KRGfxSetTintColor(1.0f, 1.0f, 1.0f, 1.0f);
-    KRGfxSetTransparency(1.0f);
-    KRGfxSetPosition(0.0f, 0.0f);
-}
-
 int LitPixels(const std::vector<u32>& pixels)
 {
     int lit = 0;
@@ -64,7 +54,7 @@ TEST(GraphicsMesh, AMeshWithNoVerticesGetsThreeEmptyBuffersAndDrawsNothing)
     }
     EXPECT_NE(pMesh->vbo[0], pMesh->vbo[1]);
     EXPECT_NE(pMesh->vbo[1], pMesh->vbo[2]);
-    BeginMeshColourFrame();
+    BeginColourFrame();
     KRGfxMeshDraw(pMesh, KR_GFX_MDM_TRIANGLES);
     EXPECT_EQ(LitPixels(ReadRegion(0, 0, 799, 599)), 0);
     KRGfxEnd();
@@ -191,7 +181,7 @@ TEST(GraphicsMesh, DrawModesGivePointsLinesLineStripsAndTriangles)
     int lit[4] = {0, 0, 0, 0};
     for (u32 mode = 0; mode < 4; ++mode)
     {
-        BeginMeshColourFrame();
+        BeginColourFrame();
         KRGfxMeshDraw(pMesh, mode);
         lit[mode] = LitPixels(ReadRegion(290, 290, 120, 120));
         KRGfxEnd();
@@ -208,7 +198,7 @@ TEST(GraphicsMesh, MeshDrawLeavesNoAttributeEnabledAndNoBufferBound)
 {
     StartGraphicsWindowed();
     KRGfxVertexList* pMesh = MakeRectMesh(10.0f, 10.0f, 0xFFFFFFFFu);
-    BeginMeshColourFrame();
+    BeginColourFrame();
     KRGfxMeshDraw(pMesh, KR_GFX_MDM_TRIANGLES);
     for (GLuint attribute = 0; attribute < 4; ++attribute)
     {
@@ -240,7 +230,7 @@ TEST(GraphicsMesh, ADrawModeAboveThreePrintsItsNumberAndDrawsNothing)
     ChildResult child = RunInChild([] {
         StartGraphicsWindowed();
         KRGfxVertexList* pMesh = MakeRectMesh(50.0f, 50.0f, 0xFFFFFFFFu);
-        BeginMeshColourFrame();
+        BeginColourFrame();
         KRGfxMeshDraw(pMesh, 4);
         std::printf("lit %d\n", LitPixels(ReadRegion(0, 0, 799, 599)));
         KRGfxEnd();

@@ -75,12 +75,29 @@ std::vector<u32> ReadRegion(int x, int y, int width, int height)
     return pixels;
 }
 
-void BeginTexturedFrame()
+static void BeginFrameIn(int32_t mode)
 {
     KRGfxStart();
     KRGfxSetBlendMode(KR_GFX_BM_NONE);
-    KRGfxSetRenderMode(KR_GFX_RM_TEXTURE);
+    KRGfxSetRenderMode(mode);
     KRGfxSetTintColor(1.0f, 1.0f, 1.0f, 1.0f);
     KRGfxSetTransparency(1.0f);
     KRGfxSetPosition(0.0f, 0.0f);
+}
+
+void BeginTexturedFrame()
+{
+    BeginFrameIn(KR_GFX_RM_TEXTURE);
+}
+
+void BeginColourFrame()
+{
+    BeginFrameIn(KR_GFX_RM_COLOR);
+}
+
+std::vector<int> Viewport()
+{
+    std::vector<int> viewport(4, 0);
+    glGetIntegerv(GL_VIEWPORT, viewport.data());
+    return viewport;
 }

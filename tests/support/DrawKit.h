@@ -39,3 +39,9 @@ inline u32 Rgb(u32 pixel) { return pixel & 0x00FFFFFFu; }
 // Starts a frame with the texture program active, a white tint, full transparency, blending off and the world
 // matrix at the origin, as a state's Draw sets them; the frame stays open for drawing and reading.
 void BeginTexturedFrame();
+
+// The same with the colour program active.
+void BeginColourFrame();
+
+// The viewport as OpenGL has it: x, y, width, height.
+std::vector<int> Viewport();
