@@ -8,7 +8,7 @@
 set -euo pipefail
 
 RUN_PKGS="build-essential cmake pkg-config libsdl2-dev libsdl2-mixer-dev libglew-dev libstb-dev
-  libfreetype-dev fonts-dejavu-core libgl1-mesa-dri"
+  zlib1g-dev libfreetype-dev fonts-dejavu-core libgl1-mesa-dri"
 TEST_PKGS="libgtest-dev googletest xvfb xauth xdotool x11-utils imagemagick sox python3-xlib wmctrl openbox
   clang libclang-rt-14-dev ninja-build git"
 ASSET_PKGS="python3 python3-pil python3-numpy fonts-dejavu-core fonts-dejavu-extra fonts-urw-base35 fonts-noto-core

@@ -4,10 +4,10 @@
 #include "KRPlatformScripted.h"
 #include "KRSystem.h"
 #include "TestEnv.h"
+#include "replayframe.h"
 
 #include <GL/glew.h>
 #include <gtest/gtest.h>
-#include <stb_image_write.h>
 
 void StartGraphicsWindowed()
 {
@@ -57,7 +57,7 @@ bool WritePng(const std::string& path, int width, int height, const std::vector<
         rgba[i * 4 + 2] = (unsigned char)Blue(pixels[i]);
         rgba[i * 4 + 3] = (unsigned char)(pixels[i] >> 24);
     }
-    return stbi_write_png(path.c_str(), width, height, 4, rgba.data(), width * 4) != 0;
+    return ReplayWritePng(path, width, height, rgba, PngPacking::kQuick);
 }
 
 std::vector<u32> ReadRegion(int x, int y, int width, int height)

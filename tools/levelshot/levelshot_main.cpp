@@ -167,7 +167,7 @@ int main(int argc, char** argv)
     LevelDrawWorld(pLevel);
     std::vector<unsigned char> pixels = ReplayReadFrame(drawnWidth, drawnHeight);
     pixels = LevelShotShrink(pixels, drawnWidth, drawnHeight, options.supersample);
-    bool written = ReplayWritePng(options.out, options.width, options.height, pixels);
+    bool written = ReplayWritePng(options.out, options.width, options.height, pixels, PngPacking::kSmall);
 
     gGameStateNext = GS_QUIT;
     while (GameLoopStep())

@@ -10,8 +10,17 @@
 // The bottom left width by height pixels of the back buffer as RGBA, top row first, fully opaque.
 std::vector<unsigned char> ReplayReadFrame(int width, int height);
 
-// Writes width by height RGBA pixels, top row first, to a PNG.
-bool ReplayWritePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels);
+// How hard a PNG is packed: quickly (screenshots and shots, written by the dozen while a run waits for them) or as
+// small as zlib can (pictures that are kept, such as the level selection previews).
+enum class PngPacking
+{
+    kQuick,
+    kSmall,
+};
 
-// Both in one: the bottom left width by height pixels of the back buffer to a PNG.
+// Writes width by height RGBA pixels, top row first, to a PNG.
+bool ReplayWritePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels,
+                    PngPacking packing);
+
+// Both in one: the bottom left width by height pixels of the back buffer to a PNG, packed quickly.
 bool ReplaySaveFramePng(const std::string& path, int width, int height);
