@@ -20,6 +20,11 @@ void DrawEveryFrame()
     KRScriptDrawEveryStep();
 }
 
+void DrawNoFrame()
+{
+    KRScriptDrawNoStep();
+}
+
 void RunGameScripted(int32_t firstState, const char* script)
 {
     StartGameScripted(firstState, script);

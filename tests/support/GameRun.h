@@ -15,3 +15,6 @@ void StartGameScripted(int32_t firstState, const char* script);
 // screenshot and pixel-sampling helpers ask for the frames they take, and a test that reads the back buffer itself
 // calls this once its run has started. Reading a frame that was not drawn fails the test (see TestEnv.h).
 void DrawEveryFrame();
+
+// Back to drawing none of the frames, for a stretch of a run that nobody looks at.
+void DrawNoFrame();

@@ -26,6 +26,8 @@ int sSampleY = 0;
 
 void SampleAtPresent(int step)
 {
+    if (!KRScriptStepDrawn(step))
+        return;
     const unsigned pixel = ReadPixel(sSampleX, sSampleY);
     sSamples[step] = (int)((pixel >> 16) & 255) + (int)((pixel >> 8) & 255) + (int)(pixel & 255);
 }

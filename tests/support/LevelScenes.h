@@ -28,7 +28,8 @@ void StopShooting();
 // The full path of a saved picture, for checking that it was written.
 std::string ShotPath(const std::string& name);
 
-// Draws every frame from now on and samples one pixel of the picture presented at every step, at a place of the 800 by 600 view drawn on LevelRun's
-// 320 by 240 screen; the brightness (red + green + blue, 0 to 765) of a step's sample, or -1 when none was taken.
+// Draws every frame from now on and samples one pixel of the picture presented at every drawn step, at a place of
+// the 800 by 600 view drawn on LevelRun's 320 by 240 screen; the brightness (red + green + blue, 0 to 765) of a
+// step's sample, or -1 when none was taken (DrawNoFrame stops the drawing, and with it the sampling, for a while).
 void SamplePixelEachStep(int viewX, int viewY);
 int SampledBrightness(int step);
