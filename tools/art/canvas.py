@@ -163,6 +163,7 @@ def finish(img, ground=None):
 
 
 def save_png(img, path):
-    """RGBA PNG with no text, time or gamma chunks; the same picture always gives the same bytes."""
+    """RGBA PNG with no text, time or gamma chunks; the same picture always gives the same bytes. zlib's level 6:
+    level 9 takes eight times as long for files a twentieth smaller."""
     img = img.convert("RGBA")
-    img.save(path, format="PNG", optimize=False, compress_level=9)
+    img.save(path, format="PNG", optimize=False, compress_level=6)
