@@ -3,7 +3,8 @@
 #
 #   tools/run-tests.sh          (make test)  everything: `make check` itself first (the plain tree build/test and its
 #                               unit and display tests), then the sanitizer tree build/asan (AddressSanitizer,
-#                               UndefinedBehaviorSanitizer) with every test, while the fuzz targets of the file
+#                               UndefinedBehaviorSanitizer) with every test (the tests' own code, compiled alike in
+#                               both trees, is linked from build/test), while the fuzz targets of the file
 #                               readers run for FUZZ_SECONDS (default 10) each; one CTest then runs every other test
 #                               of both trees and ends the run with its summary.
 #   tools/run-tests.sh --check  (make check) the inner loop: rebuilds the plain tree and runs its unit and display
@@ -132,7 +133,8 @@ if [[ "$summary" != "100% tests passed, 0 tests failed"* ]] || [ "$labels" != "d
 fi
 
 step "building the sanitizer tree"
-configure build/asan -S . -DCMAKE_BUILD_TYPE=Debug -DQUILLON_SANITIZE=ON -DQUILLON_WERROR=ON
+configure build/asan -S . -DCMAKE_BUILD_TYPE=Debug -DQUILLON_SANITIZE=ON -DQUILLON_WERROR=ON \
+  -DQUILLON_TEST_CODE_FROM="$root/build/test"
 cmake --build build/asan -j"$jobs"
 
 fuzz_failed=0

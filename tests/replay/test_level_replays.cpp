@@ -107,7 +107,7 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     std::system(("mkdir -p '" + saves + "'").c_str());
     WriteFileText(saves + "/States.txt", "000000\n0\n0");
 
-    const std::string command = "cd '" + ReplaysSourceDir() + "' && '" QUILLON_REPLAY_BINARY "' --state " +
+    const std::string command = "cd '" + ReplaysSourceDir() + "' && '" + ReplayBinary() + "' --state " +
                                 e.state + " --draw shots --script '" + dir + "/script.txt' --documents '" + documents +
                                 "' </dev/null >'" + dir + "/out.txt' 2>'" + dir + "/err.txt'";
     const int raw = std::system(command.c_str());

@@ -19,7 +19,7 @@ std::string ShotSourceDir()
 
 int RunLevelShot(const std::string& args, const std::string& errPath)
 {
-    std::string command = "cd '" + ShotSourceDir() + "' && '" QUILLON_LEVELSHOT_BINARY "' " + args +
+    std::string command = "cd '" + ShotSourceDir() + "' && '" + LevelShotBinary() + "' " + args +
                           " </dev/null >/dev/null 2>'" + errPath + "'";
     int raw = std::system(command.c_str());
     return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;

@@ -37,7 +37,7 @@ ReplayRun RunReplayIn(const std::string& cwd, const std::string& script, const s
     std::string dir = MakeTempDir("replay");
     std::string scriptPath = dir + "/script.txt";
     WriteFileText(scriptPath, script);
-    std::string command = "cd '" + cwd + "' && '" QUILLON_REPLAY_BINARY "' --script '" + scriptPath + "' " + args +
+    std::string command = "cd '" + cwd + "' && '" + ReplayBinary() + "' --script '" + scriptPath + "' " + args +
                           " </dev/null >'" + dir + "/out.txt' 2>'" + dir + "/err.txt'";
     int raw = std::system(command.c_str());
     ReplayRun run;
@@ -280,7 +280,7 @@ TEST(ReplayTool, AScriptLineItCannotReadEndsTheRunWithItsLineNumber)
 
 TEST(ReplayTool, AScriptFileItCannotOpenEndsTheRunWithAMessage)
 {
-    std::string command = "'" QUILLON_REPLAY_BINARY "' --script /nonexistent/script.txt 2>&1";
+    std::string command = "'" + ReplayBinary() + "' --script /nonexistent/script.txt 2>&1";
     FILE* pipe = popen(command.c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     std::string out;
@@ -376,7 +376,7 @@ TEST(ReplayTool, TheAttributesOptionSetsBatteryAndHitPoints)
 
 TEST(ReplayTool, WithoutAScriptOrWithAnUnknownOptionItPrintsItsUsage)
 {
-    int raw = std::system("'" QUILLON_REPLAY_BINARY "' --state GS_CREDITS >/dev/null 2>&1");
+    int raw = std::system(("'" + ReplayBinary() + "' --state GS_CREDITS >/dev/null 2>&1").c_str());
     EXPECT_NE(WEXITSTATUS(raw), 0);
     ReplayRun unknown = RunReplay("close 1\n", "--fast");
     EXPECT_NE(unknown.status, 0);

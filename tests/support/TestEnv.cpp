@@ -14,6 +14,29 @@
 #include <unistd.h>
 #include <vector>
 
+std::string TestTreeDir()
+{
+    char buffer[4096];
+    const ssize_t length = readlink("/proc/self/exe", buffer, sizeof buffer - 1);
+    std::string path = length > 0 ? std::string(buffer, (size_t)length) : std::string(".");
+    for (int up = 0; up < 2; ++up)
+    {
+        const size_t slash = path.find_last_of('/');
+        path = slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+    }
+    return path;
+}
+
+std::string ReplayBinary()
+{
+    return TestTreeDir() + "/quillon-replay";
+}
+
+std::string LevelShotBinary()
+{
+    return TestTreeDir() + "/quillon-levelshot";
+}
+
 std::string TestOutputDir()
 {
     const char* dir = std::getenv("QUILLON_TEST_OUTPUT");

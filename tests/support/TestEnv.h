@@ -3,6 +3,15 @@
 
 #include <string>
 
+// The build tree whose test binary is running: the binaries lie in its tests/ folder, beside the tree's own
+// quillon-replay and quillon-levelshot one folder up. Found from the running binary, so that test code compiled
+// once serves every tree that links it.
+std::string TestTreeDir();
+
+// That tree's replay tool and level shot tool.
+std::string ReplayBinary();
+std::string LevelShotBinary();
+
 // The folder tests write their evidence to (screenshots, logs); made when missing.
 std::string TestOutputDir();
 
