@@ -5,19 +5,42 @@ circularly, which keeps a loop-length buffer periodic, or causally through a min
 drum attacks do not ring before they start), a time-varying filter by short frames, and panning.
 Signals are numpy float arrays: shape (n,) for mono, (2, n) for stereo.
 """
+import collections
+import functools
+
 import numpy as np
 
 SR = 44100
+# Time axes and decays of note lengths are asked for again and again with the same arguments: up to this many
+# samples they are kept, read-only, so the same array serves every note of that length.
+_KEPT_LENGTH = 1 << 20
 
 
 def samples(seconds):
     return int(round(seconds * SR))
 
 
+def _kept(make):
+    """Keeps what make returns for short lengths (see _KEPT_LENGTH), made read-only so no caller can change it."""
+    kept = functools.lru_cache(maxsize=128)(lambda *args: _read_only(make(*args)))
+
+    @functools.wraps(make)
+    def wrapper(n, *args):
+        return kept(n, *args) if n <= _KEPT_LENGTH else make(n, *args)
+    return wrapper
+
+
+def _read_only(array):
+    array.setflags(write=False)
+    return array
+
+
+@_kept
 def time_axis(n):
     return np.arange(n) / SR
 
 
+@_kept
 def exp_decay(n, t60):
     """Amplitude falling by 60 dB in t60 seconds."""
     return 10.0 ** (-3.0 * time_axis(n) / t60)
@@ -38,29 +61,35 @@ def ar_envelope(n, attack, hold, release, curve=2.0):
     return (rise * fall ** curve)
 
 
-# Magnitude responses: each returns a function of a frequency array (Hz) giving gains.
+# Magnitude responses: each returns a function of a frequency array (Hz) giving gains. Each carries a key, its
+# kind and parameters, by which the causal filter keeps the kernels it has worked out.
+
+def _keyed(response, *key):
+    response.key = key
+    return response
+
 
 def lowpass(fc, order=2):
-    return lambda f: 1.0 / np.sqrt(1.0 + (f / fc) ** (2 * order))
+    return _keyed(lambda f: 1.0 / np.sqrt(1.0 + (f / fc) ** (2 * order)), "lowpass", fc, order)
 
 
 def highpass(fc, order=2):
-    return lambda f: 1.0 / np.sqrt(1.0 + (fc / np.maximum(f, 1e-3)) ** (2 * order))
+    return _keyed(lambda f: 1.0 / np.sqrt(1.0 + (fc / np.maximum(f, 1e-3)) ** (2 * order)), "highpass", fc, order)
 
 
 def bandpass(fc, q):
-    return lambda f: 1.0 / np.sqrt(1.0 + (q * (f / fc - fc / np.maximum(f, 1e-3))) ** 2)
+    return _keyed(lambda f: 1.0 / np.sqrt(1.0 + (q * (f / fc - fc / np.maximum(f, 1e-3))) ** 2), "bandpass", fc, q)
 
 
 def peaking(fc, q, gain_db):
     g = 10.0 ** (gain_db / 20.0) - 1.0
     bp = bandpass(fc, q)
-    return lambda f: 1.0 + g * bp(f) ** 2
+    return _keyed(lambda f: 1.0 + g * bp(f) ** 2, "peaking", fc, q, gain_db)
 
 
 def high_shelf(fc, gain_db):
     g = 10.0 ** (gain_db / 20.0) - 1.0
-    return lambda f: 1.0 + g * (f / fc) ** 2 / (1.0 + (f / fc) ** 2)
+    return _keyed(lambda f: 1.0 + g * (f / fc) ** 2 / (1.0 + (f / fc) ** 2), "high_shelf", fc, gain_db)
 
 
 def chain(*responses):
@@ -69,7 +98,8 @@ def chain(*responses):
         for r in responses:
             out = out * r(f)
         return out
-    return combined
+    keys = [getattr(r, "key", None) for r in responses]
+    return _keyed(combined, "chain", *keys) if None not in keys else combined
 
 
 def filter_circular(x, response):
@@ -91,11 +121,29 @@ def _min_phase_spectrum(response, nfft):
     return np.exp(np.fft.rfft(cep * fold))
 
 
+# Kernels worked out, by response key and transform length, up to this many bytes in all (the oldest go first).
+_KERNELS = collections.OrderedDict()
+_KERNELS_LIMIT = 256 << 20
+
+
+def _causal_spectrum(response, nfft):
+    key = getattr(response, "key", None)
+    if key is None:
+        return _min_phase_spectrum(response, nfft)
+    found = _KERNELS.get((key, nfft))
+    if found is None:
+        found = _read_only(_min_phase_spectrum(response, nfft))
+        _KERNELS[(key, nfft)] = found
+        while sum(k.nbytes for k in _KERNELS.values()) > _KERNELS_LIMIT and len(_KERNELS) > 1:
+            _KERNELS.popitem(last=False)
+    return found
+
+
 def filter_causal(x, response, tail=0.0):
     """Causal filtering of a finite sound; `tail` seconds of ringing are kept after its end."""
     n = x.shape[-1] + samples(tail)
     nfft = 1 << int(np.ceil(np.log2(2 * n + 1024)))
-    spectrum = _min_phase_spectrum(response, nfft)
+    spectrum = _causal_spectrum(response, nfft)
     y = np.fft.irfft(np.fft.rfft(x, nfft, axis=-1) * spectrum, nfft, axis=-1)
     return y[..., :n]
 
