@@ -52,9 +52,10 @@ COLUMNS = ["file", "role", "play dB", "LUFS", "LUFS at play", "target", "dBTP", 
            "HP loss LU", "first 2 s LUFS 200 Hz HP", "verdict"]
 
 
-def measure(path):
-    sig, rate = read_any(path)
-    figures = {"lufs": r128.integrated(sig, rate), "tp": r128.true_peak(sig),
+def measure(path, decoded=None):
+    """A file's figures, from the file or from what decoding it gave (samples, rate, true peak) when known."""
+    sig, rate, tp = decoded if decoded is not None else read_any(path) + (None,)
+    figures = {"lufs": r128.integrated(sig, rate), "tp": r128.true_peak(sig) if tp is None else tp,
                "speaker": r128.integrated(sig, rate, speaker=True)}
     figures["opening"] = r128.integrated(sig[:, :int(2 * rate)], rate, speaker=True)
     return figures
@@ -78,10 +79,11 @@ def problems(name, f):
     return out
 
 
-def measure_all(folder):
+def measure_all(folder, decoded=None):
+    """Every file's figures and problems; decoded maps a file name to its decoding, when already known."""
     rows = []
     for name in TARGETS:
-        f = measure(os.path.join(folder, name))
+        f = measure(os.path.join(folder, name), (decoded or {}).get(name))
         rows.append((name, f, problems(name, f)))
     return rows
 
