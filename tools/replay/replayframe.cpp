@@ -3,6 +3,7 @@
 
 #include <GL/glew.h>
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <zlib.h>
 

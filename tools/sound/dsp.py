@@ -124,6 +124,7 @@ def _min_phase_spectrum(response, nfft):
 # Kernels worked out, by response key and transform length, up to this many bytes in all (the oldest go first).
 _KERNELS = collections.OrderedDict()
 _KERNELS_LIMIT = 256 << 20
+_KERNELS_KEPT = [0]
 
 
 def _causal_spectrum(response, nfft):
@@ -134,8 +135,9 @@ def _causal_spectrum(response, nfft):
     if found is None:
         found = _read_only(_min_phase_spectrum(response, nfft))
         _KERNELS[(key, nfft)] = found
-        while sum(k.nbytes for k in _KERNELS.values()) > _KERNELS_LIMIT and len(_KERNELS) > 1:
-            _KERNELS.popitem(last=False)
+        _KERNELS_KEPT[0] += found.nbytes
+        while _KERNELS_KEPT[0] > _KERNELS_LIMIT and len(_KERNELS) > 1:
+            _KERNELS_KEPT[0] -= _KERNELS.popitem(last=False)[1].nbytes
     return found
 
 
