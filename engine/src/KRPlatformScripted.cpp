@@ -54,6 +54,8 @@ static std::set<int> sDrawnSteps;
 static bool sHaveContext = false;
 static int sPresentCount = 0;
 static bool sPresentedDrawn = true;
+static int sShownWidth = -1;
+static int sShownHeight = -1;
 
 // Switches the rasterizer for the step under way.
 static void ApplyDrawing()
@@ -315,6 +317,8 @@ static int ScriptedCreateGLContext()
     if (!gKRPlatformSDL.CreateGLContext())
         return 0;
     sHaveContext = true;
+    sShownWidth = -1;
+    sShownHeight = -1;
     ApplyDrawing();
     return 1;
 }
@@ -331,7 +335,16 @@ static void ScriptedPresent()
     ++sPresentCount;
     if (sPresentHook)
         sPresentHook(sStep);
-    gKRPlatformSDL.Present();
+    // An undrawn frame is not shown either, unless the window's size has changed since the last frame shown: the
+    // software renderer takes a window's new size for its buffers only when a frame is shown.
+    int width = 0, height = 0;
+    gKRPlatformSDL.GetClientSize(&width, &height);
+    if (sPresentedDrawn || width != sShownWidth || height != sShownHeight)
+    {
+        gKRPlatformSDL.Present();
+        sShownWidth = width;
+        sShownHeight = height;
+    }
 
     auto frameTime = sFrameTimes.find(sStep);
     double seconds = frameTime != sFrameTimes.end() ? frameTime->second : sDefaultFrameTime;

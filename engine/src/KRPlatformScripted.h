@@ -24,8 +24,10 @@ void KRScriptSetPresentHook(void (*hook)(int step)); // called at each present, 
 
 // Which steps' frames are drawn. Every one, as a player sees them (the default, and after a reset), or only those
 // asked for: the frames of the other steps go through the whole loop and every OpenGL call, but their clears and
-// triangles are discarded before they become pixels (GL_RASTERIZER_DISCARD), so a run that looks only at the
-// game's variables costs no shading. Takes effect at once: a step asked for before its frame starts is drawn.
+// triangles are discarded before they become pixels (GL_RASTERIZER_DISCARD), and the present shows nothing (the
+// buffers are swapped only when the window's size has changed since the last shown frame, which is when the
+// renderer takes a new size), so a run that looks only at the game's variables costs no shading and no copying to
+// the window. Takes effect at once: a step asked for before its frame starts is drawn.
 void KRScriptDrawEveryStep();
 void KRScriptDrawNoStep();
 void KRScriptDrawStep(int step);     // this step's frame too
