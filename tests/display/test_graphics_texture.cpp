@@ -7,6 +7,7 @@
 #include "KRSystem.h"
 #include "Pattern.h"
 #include "TestEnv.h"
+#include "replayframe.h"
 
 #include <GL/glew.h>
 #include <gtest/gtest.h>
@@ -93,6 +94,26 @@ TEST(GraphicsTexture, ColourAndAlphaOfThePictureAreUploadedUnaltered)
         << "not premultiplied, not colour corrected";
     EXPECT_EQ(format, GL_RGBA8);
     EXPECT_STREQ(pTexture->name, path.c_str());
+    KRGfxTextureUnload(pTexture);
+    KRSysExit();
+}
+
+TEST(GraphicsTexture, AnOpaquePictureStoredWithoutAlphaIsUploadedWithFullAlpha)
+{
+    // The art keeps pictures drawn unblended edge to edge as RGB files.
+    const std::string path = MakeTempDir("textures") + "/opaque.png";
+    ASSERT_TRUE(ReplayWritePng(path, 2, 1, {0xC0, 0x80, 0x20, 0x10, 0x20, 0x30}, PngPacking::kQuick, 3));
+    StartGraphicsWindowed();
+    KRGfxTexture* pTexture = KRGfxTextureLoad(path.c_str());
+    unsigned char rgba[8] = {0};
+    glBindTexture(GL_TEXTURE_2D, *pTexture->glId);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
+    GLint width = 0;
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    EXPECT_EQ(width, 2);
+    EXPECT_EQ(std::vector<int>(rgba, rgba + 8), std::vector<int>({0xC0, 0x80, 0x20, 0xFF, 0x10, 0x20, 0x30, 0xFF}));
     KRGfxTextureUnload(pTexture);
     KRSysExit();
 }

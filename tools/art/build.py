@@ -44,13 +44,6 @@ def write_if_changed(path, data):
     return True
 
 
-def png_bytes(img):
-    import io
-    buf = io.BytesIO()
-    C.save_png(img, buf)
-    return buf.getvalue()
-
-
 def main(argv):
     if argv[1:] == ["--rendered-elsewhere"]:
         # The pictures drawn by other tools, one a line, for the regeneration check to leave out.
@@ -75,13 +68,13 @@ def main(argv):
         if key not in cache:
             cache[key] = C.finish(maker(), registry.clear_rgb(clear))
         img = cache[key]
-        changed += write_if_changed(os.path.join(ASSETS, name), png_bytes(img))
+        changed += write_if_changed(os.path.join(ASSETS, name), C.png_bytes(img, opaque=(clear == "none")))
         made.append((name, img, clear))
     if not only:
         manifest = "\n".join(registry.manifest_lines()) + "\n"
         changed += write_if_changed(os.path.join(ASSETS, "MANIFEST.tsv"), manifest.encode("utf-8"))
         made.sort(key=lambda p: p[0].lower())
-        changed += write_if_changed(SHEET, png_bytes(contact.contact_sheet(made)))
+        changed += write_if_changed(SHEET, C.png_bytes(contact.contact_sheet(made)))
     print("build.py: %d pictures, %d files changed" % (len(made), changed))
 
 

@@ -47,12 +47,13 @@ void PutChunk(std::vector<unsigned char>& out, const char* type, const unsigned 
 } // namespace
 
 bool ReplayWritePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels,
-                    PngPacking packing)
+                    PngPacking packing, int channels)
 {
-    if (width <= 0 || height <= 0 || pixels.size() != (size_t)width * height * 4)
+    if ((channels != 3 && channels != 4) || width <= 0 || height <= 0 ||
+        pixels.size() != (size_t)width * height * channels)
         return false;
     // Every row with filter type 0 (none) in front of it, then deflated as one stream.
-    const size_t rowBytes = (size_t)width * 4;
+    const size_t rowBytes = (size_t)width * channels;
     std::vector<unsigned char> rows((rowBytes + 1) * height);
     for (int row = 0; row < height; ++row)
     {
@@ -71,7 +72,8 @@ bool ReplayWritePng(const std::string& path, int width, int height, const std::v
     std::vector<unsigned char> header;
     PutBigEndian(header, (uint32_t)width);
     PutBigEndian(header, (uint32_t)height);
-    header.insert(header.end(), {8, 6, 0, 0, 0}); // 8 bits a channel, RGBA, deflate, no interlace
+    // 8 bits a channel, RGBA (colour type 6) or RGB (2), deflate, no interlace.
+    header.insert(header.end(), {8, (unsigned char)(channels == 4 ? 6 : 2), 0, 0, 0});
     PutChunk(file, "IHDR", header.data(), header.size());
     PutChunk(file, "IDAT", packed.data(), packedSize);
     PutChunk(file, "IEND", nullptr, 0);

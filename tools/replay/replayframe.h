@@ -18,9 +18,9 @@ enum class PngPacking
     kSmall,
 };
 
-// Writes width by height RGBA pixels, top row first, to a PNG.
+// Writes width by height pixels, top row first, to a PNG: RGBA with four channels, RGB (no alpha) with three.
 bool ReplayWritePng(const std::string& path, int width, int height, const std::vector<unsigned char>& pixels,
-                    PngPacking packing);
+                    PngPacking packing, int channels = 4);
 
 // Both in one: the bottom left width by height pixels of the back buffer to a PNG, packed quickly.
 bool ReplaySaveFramePng(const std::string& path, int width, int height);
