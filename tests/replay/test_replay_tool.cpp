@@ -387,8 +387,9 @@ TEST(ReplayTool, WithoutAScriptOrWithAnUnknownOptionItPrintsItsUsage)
 TEST(ReplayTool, AProbeInALevelGivesTheCharacterTheCameraAndTheLevelsFlags)
 {
     std::string game = GameFolderWithFirstLevel();
+    // Probes only: no frame is drawn.
     ReplayRun run = RunReplay("key D 30-60\nprobe 20\nprobe 60\nclose 61\n",
-                              "--state GS_LEVEL_0 --assets " + Quoted(game));
+                              "--state GS_LEVEL_0 --draw shots --assets " + Quoted(game));
     EXPECT_EQ(run.status, 0) << run.err;
     ASSERT_EQ(run.probes.size(), 2u) << run.out << run.err;
     const std::string& still = run.probes[0];
