@@ -91,14 +91,15 @@ TEST_P(LevelReplay, EndsAsItsExpectationsSay)
     ASSERT_GT(e.lastStep, 0) << "the script has no close";
 
     // The script's own screen (800 by 600, a window to watch it in), only the frames of the pictures drawn (for
-    // speed), a probe at every step, and a picture every 20 steps of the last 400 (a winning script closes a few
-    // seconds after the win): the last one before the level is won is kept as the level's picture near its exit.
+    // speed), a probe at every step, and a picture every 20 steps from 400 to 180 steps before the close (a won
+    // level moves on three seconds, 180 steps, after the win, and a winning script closes after that): the last
+    // one before the level is won is kept as the level's picture near its exit.
     const std::string dir = MakeTempDir("level-replay");
     std::string full = script;
     for (int step = 0; step <= e.lastStep; step++)
         full += "probe " + std::to_string(step) + "\n";
     if (e.won)
-        for (int step = std::max(0, e.lastStep - 400) / kShotEvery * kShotEvery; step <= e.lastStep;
+        for (int step = std::max(0, e.lastStep - 400) / kShotEvery * kShotEvery; step <= e.lastStep - 180;
              step += kShotEvery)
             full += "shot " + std::to_string(step) + " " + dir + "/step" + std::to_string(step) + ".png\n";
     WriteFileText(dir + "/script.txt", full);
