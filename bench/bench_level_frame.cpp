@@ -118,7 +118,7 @@ int main()
     for (const GameObjInst& inst : pLevel->pool.sGameObjInstList)
         live += (inst.flag & FLAG_ACTIVE) ? 1 : 0;
 
-    const int warmUp = 30, frames = 600, updateFrames = 3000;
+    const int warmUp = 30, frames = 300, updateFrames = 3000;
     // Update alone, no drawing at all.
     std::vector<double> updateOnly;
     gFrameDelta = 1.0f / 60.0f;
