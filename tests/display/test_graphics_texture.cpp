@@ -47,6 +47,18 @@ std::vector<float> OffsetUniform()
     return {offset[0], offset[1]};
 }
 
+// The texels of a texture's first row up to `count`, as RGBA bytes, with one of its level parameters.
+std::vector<int> ReadTexels(const KRGfxTexture* pTexture, size_t count, GLenum parameter, GLint* pValue)
+{
+    std::vector<unsigned char> rgba(count * 4, 0);
+    glBindTexture(GL_TEXTURE_2D, *pTexture->glId);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba.data());
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, parameter, pValue);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return std::vector<int>(rgba.begin(), rgba.end());
+}
+
 } // namespace
 
 TEST(GraphicsTexture, TheTopRowOfAPngIsDrawnAtTheTop)
@@ -83,14 +95,9 @@ TEST(GraphicsTexture, ColourAndAlphaOfThePictureAreUploadedUnaltered)
     std::string path = WriteTestPng("translucent.png", 2, 1, {0x40C08020u, 0x00FFFFFFu});
     StartGraphicsWindowed();
     KRGfxTexture* pTexture = KRGfxTextureLoad(path.c_str());
-    unsigned char rgba[8] = {0};
-    glBindTexture(GL_TEXTURE_2D, *pTexture->glId);
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
     GLint format = 0;
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_INTERNAL_FORMAT, &format);
-    glBindTexture(GL_TEXTURE_2D, 0);
-    EXPECT_EQ(std::vector<int>(rgba, rgba + 8), std::vector<int>({0xC0, 0x80, 0x20, 0x40, 0xFF, 0xFF, 0xFF, 0x00}))
+    EXPECT_EQ(ReadTexels(pTexture, 2, GL_TEXTURE_INTERNAL_FORMAT, &format),
+              std::vector<int>({0xC0, 0x80, 0x20, 0x40, 0xFF, 0xFF, 0xFF, 0x00}))
         << "not premultiplied, not colour corrected";
     EXPECT_EQ(format, GL_RGBA8);
     EXPECT_STREQ(pTexture->name, path.c_str());
@@ -105,15 +112,10 @@ TEST(GraphicsTexture, AnOpaquePictureStoredWithoutAlphaIsUploadedWithFullAlpha)
     ASSERT_TRUE(ReplayWritePng(path, 2, 1, {0xC0, 0x80, 0x20, 0x10, 0x20, 0x30}, PngPacking::kQuick, 3));
     StartGraphicsWindowed();
     KRGfxTexture* pTexture = KRGfxTextureLoad(path.c_str());
-    unsigned char rgba[8] = {0};
-    glBindTexture(GL_TEXTURE_2D, *pTexture->glId);
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
     GLint width = 0;
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
-    glBindTexture(GL_TEXTURE_2D, 0);
+    EXPECT_EQ(ReadTexels(pTexture, 2, GL_TEXTURE_WIDTH, &width),
+              std::vector<int>({0xC0, 0x80, 0x20, 0xFF, 0x10, 0x20, 0x30, 0xFF}));
     EXPECT_EQ(width, 2);
-    EXPECT_EQ(std::vector<int>(rgba, rgba + 8), std::vector<int>({0xC0, 0x80, 0x20, 0xFF, 0x10, 0x20, 0x30, 0xFF}));
     KRGfxTextureUnload(pTexture);
     KRSysExit();
 }
